@@ -1,0 +1,61 @@
+#include "display/ApplyParams.h"
+
+#include "display/Limits.h"
+#include "display/ShowData.h"
+#include "editing/Entries.h"
+#include "form/ErrorPath.h"
+#include "form/RecordEdit.h"
+#include "record/WorkingCopy.h"
+
+namespace {
+
+// The message comes before the form moves.
+void Report(RecordEdit& form, int phase, const Fault& fault) {
+    form.ShowMessage(PhaseEntry(phase) + std::string(fault.message), MessageIcon::Information);
+    form.cmbPhase.SetText(PhaseEntry(phase));
+    cmbPhase_Click(form);
+    if (fault.flow != 0) {
+        form.cmbFlow.SetText(FlowEntry(fault.flow));
+        form.txtLava.SetText(form.TextOf(form.EditFlows[phase][fault.flow], Format::OneDecimal));
+    }
+}
+
+bool AllPass(RecordEdit& form) {
+    const int count = form.EditPhaseCount;
+    for (int n = 1; n <= count; ++n) {
+        if (const auto fault =
+                JudgePhase(form.EditPhases[n], form.EditFlows[n], form.RecordScale)) {
+            Report(form, n, *fault);
+            return false;
+        }
+    }
+    return true;
+}
+
+// A reference that was removed stays removed.
+void Commit(RecordEdit& form) {
+    if (form.StratFile != NoFileText) {
+        form.StratFile = form.EditStratFile;
+    }
+    form.LoadedPhaseCount = form.EditPhaseCount;
+    for (int n = 1; n <= form.EditPhaseCount; ++n) {
+        const PhaseRecord& phase = form.EditPhases[n];
+        form.LoadedPhases[n] = phase;
+        if (HasFlows(phase)) {
+            CopyFlows(form.EditFlows[n], form.LoadedFlows[n], phase.burstCount);
+        }
+    }
+}
+
+}  // namespace
+
+bool ApplyParams(RecordEdit& form) {
+    bool passed = false;
+    WithErrorPath(form, "ApplyParams", [&form, &passed] {
+        passed = AllPass(form);
+        if (passed) {
+            Commit(form);
+        }
+    });
+    return passed;
+}

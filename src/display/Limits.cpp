@@ -1,0 +1,180 @@
+#include "display/Limits.h"
+
+#include <initializer_list>
+#include <iterator>
+#include <stdexcept>
+
+#include "rules/FlowDurations.h"
+
+namespace {
+
+constexpr double MapStart = 50;
+constexpr double MapEnd = 1230;
+
+// What the checks look at, and what the flow checks have found.
+struct Subject {
+    PhaseRecord& phase;
+    const FlowRow& flows;
+    double factor;  // from a location to its place on the map
+    int badFlow = 0;
+    bool tooShort = false;
+
+    double MapPosition(Single location) const { return factor * static_cast<double>(location); }
+};
+
+// The eruption types that a check is made for, as one bit each.
+using Types = unsigned;
+
+constexpr Types Of(std::initializer_list<Integer> codes) {
+    Types types = 0;
+    for (const Integer code : codes) {
+        types |= 1U << static_cast<unsigned>(code);
+    }
+    return types;
+}
+
+constexpr Types All = ~0U;
+constexpr Types Located = ~Of({0, 6});
+
+// A code that is no type gets the checks for all types; its bit is beyond those of the types.
+constexpr Types BitOf(Integer code) {
+    return code >= EruptionType::Tectonic && code <= EruptionType::Fumarolic ? Of({code}) : 256U;
+}
+
+using Fails = bool (*)(Subject& s);
+
+template <auto Field, int Numerator, int Denominator = 1>
+bool Below(Subject& s) {
+    return s.phase.*Field < static_cast<Single>(Numerator) / Denominator;
+}
+
+template <auto Field, int Limit>
+bool Above(Subject& s) {
+    return s.phase.*Field > static_cast<Single>(Limit);
+}
+
+bool LocationTooSmall(Subject& s) { return s.MapPosition(s.phase.ventLocation) < MapStart; }
+bool LocationTooLarge(Subject& s) { return s.MapPosition(s.phase.ventLocation) > MapEnd; }
+
+bool NoDownSide(Subject& s) {
+    return s.phase.tectonicKind == TectonicKind::Faulting && s.phase.faultDip == 0 &&
+           s.phase.faultDownSide != DownSide::Left && s.phase.faultDownSide != DownSide::Right;
+}
+
+bool NoCalderaStyle(Subject& s) { return s.phase.calderaFlag == 1 && s.phase.calderaStyle == 0; }
+
+// Looks for the first flow that is too short or too long; its row and the next tell which.
+bool FlowTooShort(Subject& s) {
+    for (int j = 1; j <= s.phase.burstCount; ++j) {
+        s.tooShort = s.flows[j] < ShortestFlow(s.phase.eruptionType);
+        if (s.tooShort || static_cast<double>(s.flows[j]) > LongestFlow(s.phase, j)) {
+            s.badFlow = j;
+            break;
+        }
+    }
+    return s.tooShort;
+}
+
+bool FlowTooLong(Subject& s) { return s.badFlow != 0; }
+
+template <auto Scarp>
+bool PutOnMap(Subject& s) {
+    Single& scarp = s.phase.*Scarp;
+    const bool low = s.MapPosition(scarp) < MapStart;
+    if (low) {
+        scarp = static_cast<Single>(MapStart / s.factor);
+    }
+    const bool high = s.MapPosition(scarp) > MapEnd;
+    if (high) {
+        scarp = static_cast<Single>(MapEnd / s.factor);
+    }
+    return low || high;
+}
+
+bool ScarpsEqual(Subject& s) { return s.phase.scarpTop == s.phase.scarpBase; }
+
+// Whether a check that fails ends the judgement, or the one behind it is looked at first and, if
+// that fails too, hides it.
+enum class Then { Stop, GoOn };
+
+struct Check {
+    Types types;
+    Fails fails;
+    std::string_view message;
+    Then then = Then::Stop;
+};
+
+using P = PhaseRecord;
+
+// clang-format off
+constexpr Check Checks[] = {
+    {Located,    LocationTooSmall,            " Location too small"},
+    {Located,    LocationTooLarge,            " Location too large"},
+    {All,        Below<&P::wind, -50>,        " Wind speed too negative"},
+    {All,        Above<&P::wind, 50>,         " Wind speed too high"},
+
+    {Of({0}),    NoDownSide,                  " Must select down side"},
+
+    {Of({1}),    Above<&P::strength, 1>,      " Maximum Strength (1.0) exceeded."},
+    {Of({1}),    Below<&P::strength, 2, 10>,  " Minimum Strength (0.20) not met."},
+    {Of({1}),    NoCalderaStyle,              " Must select caldera style."},
+    {Of({1}),    Above<&P::midRadius, 640>,   " Mid radius must be <= 640 "},
+    {Of({1}),    Below<&P::depositAngle, -1>, " Deposit angle must be >= -1"},
+    {Of({1}),    Above<&P::depositAngle, 1>,  " Deposit angle must be <= 1"},
+
+    {Of({2}),    Above<&P::strength, 2>,      " Maximum Strength (2.00) exceeded."},
+    {Of({2}),    Below<&P::strength, 1, 10>,  " Minimum Strength (0.10) not met."},
+    {Of({2}),    Above<&P::midRadius, 640>,   " Mid radius must be <= 640 "},
+    {Of({2}),    Below<&P::depositAngle, -1>, " Deposit angle must be >= -1"},
+    {Of({2}),    Above<&P::depositAngle, 1>,  " Deposit angle must be <= 1"},
+
+    {Of({3, 4}), FlowTooShort,                " Flow Duration too short."},
+    {Of({3, 4}), FlowTooLong,                 " Flow Duration too long."},
+    {Of({3, 4}), Above<&P::midRadius, 320>,   " Mid radius must be <= 320 "},
+    {Of({3, 4}), Below<&P::leftAngle, -4>,    " Left angle must be >= -4",  Then::GoOn},
+    {Of({3, 4}), Above<&P::leftAngle, 4>,     " Left angle must be <= 4",   Then::GoOn},
+    {Of({3, 4}), Below<&P::rightAngle, -4>,   " Right angle must be >= -4", Then::GoOn},
+    {Of({3, 4}), Above<&P::rightAngle, 4>,    " Right angle must be <= 4",  Then::GoOn},
+
+    {Of({5}),    Above<&P::strength, 1>,      " Maximum Plinian strength (1.00) exceeded."},
+    {Of({5}),    Below<&P::strength, 1, 10>,  " Minimum Strength (0.10) not met."},
+    {Of({5}),    NoCalderaStyle,              " Must select caldera style."},
+    {Of({5}),    Above<&P::midRadius, 640>,   " Mid radius must be <= 640 "},
+    {Of({5}),    Below<&P::depositAngle, -1>, " Deposit angle must be >= -1"},
+    {Of({5}),    Above<&P::depositAngle, 1>,  " Deposit angle must be <= 1"},
+
+    {Of({6}),    PutOnMap<&P::scarpTop>,      " Scarp top reset"},
+    {Of({6}),    PutOnMap<&P::scarpBase>,     " Scarp base reset"},
+    {Of({6}),    ScarpsEqual,                 " Scarp base and top cannot be equal"},
+    {Of({6}),    Above<&P::midRadius, 128>,   " Mid radius must be <= 128 "},
+    {Of({6}),    Below<&P::depositAngle, -1>, " Deposit angle must be >= -1"},
+    {Of({6}),    Above<&P::depositAngle, 1>,  " Deposit angle must be <= 1"},
+
+    {Of({7}),    Below<&P::strength, 1, 10>,  " Fumarolic strength too low."},
+    {Of({7}),    Above<&P::strength, 1>,      " Maximum Fumarolic strength exceeded."},
+    {Of({7}),    Above<&P::midRadius, 640>,   " Mid radius must be <= 640 "},
+    {Of({7}),    Below<&P::depositAngle, -1>, " Deposit angle must be >= -1"},
+    {Of({7}),    Above<&P::depositAngle, 1>,  " Deposit angle must be <= 1"},
+};
+static_assert(std::size(Checks) == 40);
+// clang-format on
+
+}  // namespace
+
+std::optional<Fault> JudgePhase(PhaseRecord& phase, const FlowRow& flows, Integer recordScale) {
+    if (recordScale == 0) {
+        throw std::domain_error("Division by zero");
+    }
+    Subject subject{phase, flows, 1000.0 / recordScale};
+    const Types type = BitOf(phase.eruptionType);
+    std::optional<Fault> fault;
+    for (const Check& check : Checks) {
+        if ((check.types & type) != 0 && check.fails(subject)) {
+            fault = Fault{check.message, subject.badFlow};
+            if (check.then == Then::Stop) {
+                return fault;
+            }
+        }
+    }
+    return fault;
+}

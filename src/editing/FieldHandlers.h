@@ -1,0 +1,21 @@
+// What the boxes of the form do with text and focus. Text goes into the phase on show at every
+// change, whoever made it; nothing is refused and nothing is told here.
+#pragma once
+
+#include "editing/Fields.h"
+
+/// The Change handler of every box that does no more than its rule says.
+void Field_Change(RecordEdit& form, const Field& field);
+
+/// The boxes that do more: bounds of a caldera, of a down side, floors, and flows.
+void txtStr_Change(RecordEdit& form);
+void txtDip_Change(RecordEdit& form);
+void txtErode_Change(RecordEdit& form);
+void txtBurst_Change(RecordEdit& form);
+void txtLava_Change(RecordEdit& form);
+
+/// The KeyPress handler of the parameter boxes: any key enables Save.
+void Field_KeyPress(RecordEdit& form);
+
+/// Selects the whole text of the box that has the focus; nothing if another control has it.
+void SelectActiveText(RecordEdit& form);

@@ -1,0 +1,109 @@
+#include "editing/PhaseList.h"
+
+#include "display/ShowData.h"
+#include "editing/Entries.h"
+#include "form/ErrorPath.h"
+#include "form/RecordEdit.h"
+
+namespace {
+
+Integer NamedPhase(const RecordEdit& form) {
+    const int named = FindPhase(form.cmbPhase.Text(), form.EditPhaseCount);
+    return named != 0 ? static_cast<Integer>(named) : form.CurPhase;
+}
+
+void ShowCount(RecordEdit& form) { form.labPhases.SetCaption(std::to_string(form.EditPhaseCount)); }
+
+void EnableList(RecordEdit& form, bool enabled) {
+    form.cmbPhase.SetEnabled(enabled);
+    form.cmbType.SetEnabled(enabled);
+    form.cmdDelete.SetEnabled(enabled);
+    form.cmdReset.SetEnabled(enabled);
+}
+
+// Everything but the mapping fields, which keep what the element held.
+void SetStartingValues(PhaseRecord& phase) {
+    PhaseRecord fresh;
+    fresh.eruptionType = EruptionType::None;
+    fresh.flowLength = 6;
+    fresh.craterSize = 6;
+    fresh.position3D = 20;
+    fresh.ventPosition = 6;
+    fresh.growth = 6;
+    fresh.midRadius = phase.midRadius;
+    fresh.depositAngle = phase.depositAngle;
+    fresh.leftAngle = phase.leftAngle;
+    fresh.rightAngle = phase.rightAngle;
+    phase = fresh;
+}
+
+// The list grows and shrinks at its end only: entry k reads "Phase k" whichever phase it names.
+void RemoveFromList(RecordEdit& form) {
+    --form.EditPhaseCount;
+    form.cmbPhase.RemoveItem(form.cmbPhase.Entries().size() - 1);
+    ShowCount(form);
+    if (form.EditPhaseCount == 0) {
+        form.EditFlows.Clear();
+        form.EditPhases.Clear();
+        form.CurPhase = 0;
+        form.cmbPhase.SetText("Add Phase");
+        EnableList(form, false);
+    }
+}
+
+// A flow row moves as far as it counts; a count above the table is a failure here.
+void CloseGap(RecordEdit& form) {
+    if (form.CurPhase > form.EditPhaseCount) {
+        form.CurPhase = form.EditPhaseCount;
+        form.cmbPhase.SetText(PhaseEntry(form.CurPhase));
+        return;
+    }
+    for (int i = form.CurPhase; i <= form.EditPhaseCount; ++i) {
+        const PhaseRecord& moved = form.EditPhases[i + 1];
+        form.EditPhases[i] = moved;
+        if (HasFlows(moved)) {
+            CopyFlows(form.EditFlows[i + 1], form.EditFlows[i], moved.burstCount);
+        }
+    }
+}
+
+// From the end, so that each element is read before it is overwritten.
+void OpenGap(RecordEdit& form) {
+    for (int i = form.EditPhaseCount; i > form.CurPhase; --i) {
+        const PhaseRecord& moved = form.EditPhases[i - 1];
+        form.EditPhases[i] = moved;
+        if (HasFlows(moved)) {
+            CopyFlows(form.EditFlows[i - 1], form.EditFlows[i], FlowsWithinTable(moved));
+        }
+    }
+}
+
+}  // namespace
+
+void cmdAdd_Click(RecordEdit& form) {
+    if (form.EditPhaseCount >= MaxPhases || NamedPhase(form) >= MaxPhases) {
+        form.ShowMessage("A record holds at most 500 phases.", MessageIcon::Information);
+        return;
+    }
+    form.CurPhase = NamedPhase(form);
+    ++form.EditPhaseCount;
+    ++form.CurPhase;
+    form.cmbPhase.SetText(PhaseEntry(form.CurPhase));
+    form.cmbPhase.AddItem(PhaseEntry(form.EditPhaseCount));
+    ShowCount(form);
+    EnableList(form, true);
+    form.Command2.SetEnabled(false);
+    OpenGap(form);
+    SetStartingValues(form.CurrentPhase());
+    ShowData(form, form.CurPhase);
+}
+
+void cmdDelete_Click(RecordEdit& form) {
+    WithErrorPath(form, "cmdDelete", [&form] {
+        form.CurPhase = NamedPhase(form);
+        RemoveFromList(form);
+        CloseGap(form);
+        ShowData(form, form.CurPhase);
+        form.Command2.SetEnabled(form.EditPhaseCount != 0);
+    });
+}

@@ -1,0 +1,49 @@
+#include "rules/FlowDurations.h"
+
+#include <algorithm>
+#include <limits>
+#include <random>
+#include <stdexcept>
+
+namespace {
+
+constexpr int NeutralFlowLength = 6;  // leaves a duration as it is; each step is a tenth of it
+
+// The simulator works these ceilings out in 16 bits, and so do we: no number wraps.
+int Fit16(int value) {
+    if (value < std::numeric_limits<Integer>::min() ||
+        value > std::numeric_limits<Integer>::max()) {
+        throw std::overflow_error("Overflow");
+    }
+    return value;
+}
+
+}  // namespace
+
+RandomSource NewRandomSource() {
+    return [engine = std::mt19937()]() mutable {
+        return static_cast<Single>(engine() >> 8U) / 16777216.0F;
+    };
+}
+
+Single ShortestFlow(Integer eruptionType) {
+    return eruptionType == EruptionType::Hawaiian ? 20.0F : 10.0F;
+}
+
+double LongestFlow(const PhaseRecord& phase, int flow) {
+    const int steps = Fit16(phase.flowLength - NeutralFlowLength);
+    if (phase.eruptionType == EruptionType::Hawaiian) {
+        return Fit16(1200 + Fit16(120 * steps));
+    }
+    const int neutral = 200 + 10 * flow;
+    return neutral + Fit16(steps * neutral) / 10.0;
+}
+
+Single NewFlowDuration(bool hawaiian, Integer flowLength, int flow, Single r) {
+    const double steps = flowLength - NeutralFlowLength;
+    const double span = hawaiian ? 1200.0 : 200.0 + 10.0 * flow;
+    const auto raw = static_cast<Single>(static_cast<double>(r) * span);
+    const auto drawn = static_cast<double>(raw);
+    const auto scaled = static_cast<Single>(steps * drawn / 10.0 + drawn);
+    return std::max(scaled, hawaiian ? 20.0F : 10.0F);
+}

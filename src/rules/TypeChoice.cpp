@@ -1,0 +1,60 @@
+#include "rules/TypeChoice.h"
+
+#include "display/ShowData.h"
+#include "form/RecordEdit.h"
+#include "rules/EruptionTypes.h"
+#include "rules/FlowDurations.h"
+
+namespace {
+
+void TakeType(RecordEdit& form) {
+    if (const TypeEntry* entry = FindType(form.cmbType.Text())) {
+        PhaseRecord& phase = form.CurrentPhase();
+        phase.eruptionType = entry->eruptionType;
+        phase.tectonicKind = entry->tectonicKind.value_or(phase.tectonicKind);
+        form.CurType = entry->eruptionType;
+    }
+}
+
+// Each box stores its field; those of the mass flux and the bursts turn 0 into 1.
+void ResetEruption(RecordEdit& form) {
+    form.txtLoc.SetText(form.TextOf(0, Format::TwoDecimals));
+    form.txtStr.SetText(form.TextOf(0, Format::TwoDecimals));
+    form.txtWind.SetText(form.TextOf(0, Format::Whole));
+    form.txtPart.SetText(form.TextOf(0, Format::Whole));
+    form.txtBurst.SetText(form.TextOf(0, Format::Whole));
+    form.txtCbase.SetText(form.TextOf(0, Format::TwoDecimals));
+    form.txtCtop.SetText(form.TextOf(0, Format::TwoDecimals));
+}
+
+// A phase that has its loaded type again gets its loaded durations back; any other gets new ones.
+void PrepareFlows(RecordEdit& form) {
+    const PhaseRecord& phase = form.CurrentPhase();
+    if (form.LoadedPhases[form.CurPhase].eruptionType == form.CurType) {
+        CopyFlows(form.LoadedFlows[form.CurPhase], form.CurrentFlows(), FlowsWithinTable(phase));
+        return;
+    }
+    const bool hawaiian = form.CurType == EruptionType::Hawaiian;
+    for (int i = 1; i <= FlowsWithinTable(phase); ++i) {
+        form.CurrentFlows()[i] = NewFlowDuration(hawaiian, phase.flowLength, i, form.random());
+    }
+}
+
+}  // namespace
+
+void cmbType_Click(RecordEdit& form) {
+    form.Command2.SetEnabled(true);
+    TakeType(form);
+    const PhaseRecord& phase = form.CurrentPhase();
+    if (phase.eruptionType == EruptionType::Tectonic) {
+        ResetEruption(form);
+    }
+    if (form.CurType == EruptionType::Tectonic && phase.tectonicKind == TectonicKind::Faulting &&
+        form.NumberIn(form.txtMag) == 0) {
+        form.txtMag.SetText("1");
+    }
+    if (form.CurType == EruptionType::Hawaiian || form.CurType == EruptionType::Pelean) {
+        PrepareFlows(form);
+    }
+    ShowData(form, form.CurPhase);
+}

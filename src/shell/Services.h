@@ -1,0 +1,67 @@
+// What the form asks of the platform, as small interfaces. The window implements them with the
+// toolkit, tests with a few lines each. Texts are UTF-8, paths the bytes of the file system.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+class CommonDialog;
+
+enum class MessageIcon { Information, Exclamation, Stop };
+
+/// Shows a modal message with an OK button and returns when the user has closed it.
+class MessageBoxes {
+public:
+    virtual ~MessageBoxes() = default;
+    virtual void Show(const std::string& text, MessageIcon icon, std::string_view title) = 0;
+};
+
+/// Shows the dialog modally as its properties say. True: the user chose a name, which is now its
+/// `FileName`. False: cancelled or failed, `FileName` is untouched.
+class FileDialogs {
+public:
+    virtual ~FileDialogs() = default;
+    virtual bool AskOpen(CommonDialog& dialog) = 0;
+    virtual bool AskSave(CommonDialog& dialog) = 0;
+};
+
+/// Opens or closes the help viewer as `HelpFile`, `HelpContext` and `HelpCommand` say. A help
+/// file that cannot be shown is told in the viewer and nowhere else.
+class HelpViewer {
+public:
+    virtual ~HelpViewer() = default;
+    virtual void ShowHelp(const CommonDialog& dialog) = 0;
+};
+
+/// Named texts in sections, filled by the simulator's installation and only read here.
+class SettingsStore {
+public:
+    virtual ~SettingsStore() = default;
+    virtual std::string Read(const std::string& section, const std::string& key,
+                             const std::string& fallback) = 0;
+};
+
+/// Gives the text under which a path is shown: some text for any text. The flag is always 0.
+class PathHelper {
+public:
+    virtual ~PathHelper() = default;
+    virtual std::string DisplayPath(const std::string& path, int flag) = 0;
+};
+
+/// Sizes and places in twips, 1440 to the inch at the form's own scale.
+struct Extent {
+    int width = 0;
+    int height = 0;
+};
+
+/// The window that carries the form. `Unload` ends in the form's own Unload event.
+class Window {
+public:
+    virtual ~Window() = default;
+    virtual Extent ScreenSize() = 0;
+    virtual Extent FormSize() = 0;
+    virtual void Move(int left, int top) = 0;
+    virtual void Show() = 0;
+    virtual void RunPendingEvents() = 0;
+    virtual void Unload() = 0;
+};

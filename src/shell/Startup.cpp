@@ -1,0 +1,70 @@
+#include "shell/Startup.h"
+
+#include <exception>
+
+#include "form/Catalogue.h"
+#include "form/RecordEdit.h"
+#include "record/WorkingCopy.h"
+#include "rules/EruptionTypes.h"
+
+namespace {
+
+// A step of the start that fails is skipped, and the next one runs.
+template <class Step>
+void Try(Step step) {
+    try {
+        step();
+    } catch (const std::exception&) {
+        // An editor without its settings or tips is still an editor.
+    }
+}
+
+void ShowCentred(RecordEdit& form) {
+    Window& window = *form.services.window;
+    Try([&] {
+        const Extent screen = window.ScreenSize();
+        const Extent size = window.FormSize();
+        window.Move((screen.width - size.width) / 2, (screen.height - size.height) / 2);
+    });
+    Try([&] {
+        window.Show();
+        window.RunPendingEvents();
+    });
+}
+
+void FillFixedLists(RecordEdit& form) {
+    for (const TypeEntry& entry : TypeEntries) {
+        form.cmbType.AddItem(std::string(entry.name));
+    }
+    form.cmbStyle.AddItem(std::string(VallesEntry));
+    form.cmbStyle.AddItem(std::string(MazamaEntry));
+    form.cmbDown.AddItem(std::string(LeftEntry));
+    form.cmbDown.AddItem(std::string(RightEntry));
+}
+
+void SetToolTips(RecordEdit& form) {
+    for (const NamedText& tip : ToolTips()) {
+        form.Find(tip.control)->SetToolTipText(tip.text);
+    }
+}
+
+}  // namespace
+
+void Form_Load(RecordEdit& form) {
+    Try([&] { form.pathHelper = form.services.createPathHelper(); });
+    Try([&] { form.settingsStore = form.services.createSettingsStore(); });
+    Try([&] {
+        if (form.settingsStore) {
+            form.DataPath = form.settingsStore->Read("Tephrex3\\Settings", "DataPath", "");
+        }
+    });
+    form.CD1.InitDir = form.DataPath;
+    form.cmdOpen.SetVisible(true);
+    form.Command1.SetCaption("Close");
+    form.Command2.SetCaption("Save");
+    form.labRecfile.SetCaption(NewRecordCaption);
+    ShowCentred(form);
+    FillFixedLists(form);
+    SetToolTips(form);
+    ReadData(form);
+}
