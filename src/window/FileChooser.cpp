@@ -1,0 +1,78 @@
+#include "window/FileChooser.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include "form/Controls.h"
+#include "window/ScreenText.h"
+
+namespace {
+
+QString PathOf(const std::string& bytes) {
+    return QFile::decodeName(QByteArray::fromStdString(bytes));
+}
+
+}  // namespace
+
+bool FileChooser::AskOpen(CommonDialog& dialog) {
+    QFileDialog asking(&parent);
+    asking.setAcceptMode(QFileDialog::AcceptOpen);
+    const bool mustExist = (dialog.Flags & CommonDialog::MustExist) != 0;
+    asking.setFileMode(mustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    return Ask(asking, dialog);
+}
+
+bool FileChooser::AskSave(CommonDialog& dialog) {
+    QFileDialog asking(&parent);
+    asking.setAcceptMode(QFileDialog::AcceptSave);
+    asking.setFileMode(QFileDialog::AnyFile);
+    asking.setDefaultSuffix(ToScreen(dialog.DefaultExt));
+    const bool askFirst = (dialog.Flags & CommonDialog::AskBeforeReplacing) != 0;
+    asking.setOption(QFileDialog::DontConfirmOverwrite, !askFirst);
+    return Ask(asking, dialog);
+}
+
+void FileChooser::SetUp(QFileDialog& asking, const CommonDialog& dialog) {
+    // Some desktops' own dialogs look for a file to be replaced before they add the extension,
+    // and so replace one without asking.
+    asking.setOption(QFileDialog::DontUseNativeDialog);
+    asking.setWindowTitle(ToScreen(dialog.DialogTitle));
+    const QStringList filters = NameFilters(dialog.Filter);
+    asking.setNameFilters(filters);
+    asking.selectNameFilter(filters.value(dialog.FilterIndex - 1));
+}
+
+void FileChooser::Offer(QFileDialog& asking, const CommonDialog& dialog) const {
+    const QString folder = lastFolder.isEmpty() ? PathOf(dialog.InitDir) : lastFolder;
+    if (!folder.isEmpty() && QFileInfo(folder).isDir()) {
+        asking.setDirectory(folder);
+    }
+    const QFileInfo offered(PathOf(dialog.FileName));
+    if (offered.isAbsolute() && offered.dir().exists()) {
+        asking.setDirectory(offered.dir());
+    }
+    if (!dialog.FileName.empty()) {
+        asking.selectFile(offered.fileName());
+    }
+}
+
+bool FileChooser::Ask(QFileDialog& asking, CommonDialog& dialog) {
+    SetUp(asking, dialog);
+    Offer(asking, dialog);
+    if (asking.exec() != QDialog::Accepted) {
+        return false;
+    }
+    lastFolder = asking.directory().absolutePath();
+    dialog.FileName = QFile::encodeName(asking.selectedFiles().value(0)).toStdString();
+    return true;
+}
+
+QStringList NameFilters(std::string_view filter) {
+    const QStringList parts = ToScreen(filter).split('|');
+    QStringList filters;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        const QString name = parts[i].section('(', 0, 0).trimmed();
+        filters += name + " (" + QString(parts[i + 1]).replace(';', ' ') + ')';
+    }
+    return filters;
+}

@@ -1,0 +1,92 @@
+#include "window/HelpWindow.h"
+
+#include <QFile>
+#include <QRegularExpression>
+#include <QShortcut>
+#include <QTextDocument>
+#include <QTextTable>
+
+#include "form/Controls.h"
+
+namespace {
+
+std::unique_ptr<QTextBrowser> NewViewer() {
+    auto viewer = std::make_unique<QTextBrowser>();
+    viewer->setObjectName("HelpViewer");
+    viewer->setWindowTitle("TephrexEdit Help");
+    viewer->setAttribute(Qt::WA_QuitOnClose, false);  // the program ends with the form
+    viewer->setOpenLinks(false);
+    viewer->document()->setDocumentMargin(12);
+    viewer->resize(640, 700);
+    QObject::connect(new QShortcut(Qt::Key_Escape, viewer.get()), &QShortcut::activated,
+                     viewer.get(), &QWidget::close);
+    return viewer;
+}
+
+QString FileName(const CommonDialog& dialog) {
+    return QFile::decodeName(QByteArray::fromStdString(dialog.HelpFile)).replace('\\', '/');
+}
+
+// The toolkit sets the tables of Markdown too tight to be read with ease.
+void SpaceTables(QTextDocument& document) {
+    for (QTextFrame* frame : document.rootFrame()->childFrames()) {
+        if (auto* const table = qobject_cast<QTextTable*>(frame)) {
+            QTextTableFormat format = table->format();
+            format.setBorderCollapse(true);
+            format.setCellPadding(4);
+            format.setBottomMargin(12);
+            table->setFormat(format);
+        }
+    }
+}
+
+// With the topic, or with a sentence that tells why there is none.
+void Fill(QTextBrowser& viewer, const CommonDialog& dialog) {
+    QFile file(FileName(dialog));
+    if (!file.open(QIODevice::ReadOnly)) {
+        viewer.setPlainText("The help file cannot be read: " + file.fileName());
+        return;
+    }
+    const int number = dialog.HelpContext;
+    const QString topic = FindTopic(QString::fromUtf8(file.readAll()), number);
+    if (topic.isNull()) {
+        viewer.setPlainText(QString("The help file has no topic %1: ").arg(number) +
+                            file.fileName());
+        return;
+    }
+    viewer.document()->setMarkdown(topic, QTextDocument::MarkdownDialectGitHub);
+    SpaceTables(*viewer.document());
+}
+
+}  // namespace
+
+QString FindTopic(const QString& markdown, int number) {
+    static const QRegularExpression mark("^# +", QRegularExpression::MultilineOption);
+    static const QRegularExpression blank("\\s");
+    const QStringList topics = markdown.split(mark).mid(1);  // what stands ahead is no topic
+    for (const QString& topic : topics) {
+        if (topic.section(blank, 0, 0) == QString::number(number)) {
+            return "# " + topic.section(blank, 1);
+        }
+    }
+    return {};
+}
+
+void HelpWindow::ShowHelp(const CommonDialog& dialog) {
+    if (dialog.HelpCommand == CommonDialog::ShowTopic) {
+        ShowTopic(dialog);
+    } else if (dialog.HelpCommand == CommonDialog::Quit && viewer != nullptr) {
+        viewer->close();
+    }
+}
+
+void HelpWindow::ShowTopic(const CommonDialog& dialog) {
+    if (viewer == nullptr) {
+        viewer = NewViewer();
+    }
+    Fill(*viewer, dialog);
+    viewer->moveCursor(QTextCursor::Start);
+    viewer->show();
+    viewer->raise();
+    viewer->activateWindow();
+}

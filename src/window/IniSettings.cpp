@@ -1,0 +1,42 @@
+#include "window/IniSettings.h"
+
+#include <QIODevice>
+
+namespace {
+
+// The toolkit's own INI format takes backslashes, commas and quotes in a value for signs of its
+// own, and would spoil a path.
+bool ReadLines(QIODevice& file, QSettings::SettingsMap& values) {
+    QString group;
+    while (!file.atEnd()) {
+        QByteArray line = file.readLine();
+        while (line.endsWith('\n') || line.endsWith('\r')) {
+            line.chop(1);
+        }
+        const QByteArray bare = line.trimmed();
+        const qsizetype equals = line.indexOf('=');
+        if (bare.startsWith('[') && bare.endsWith(']')) {
+            group = QString::fromUtf8(bare.mid(1, bare.size() - 2)) + '/';
+        } else if (equals > 0 && !bare.startsWith(';') && !bare.startsWith('#')) {
+            values[group + QString::fromUtf8(line.left(equals).trimmed())] = line.mid(equals + 1);
+        }
+    }
+    return true;
+}
+
+QSettings::Format RawIni() {
+    static const QSettings::Format format =
+        QSettings::registerFormat("ini", ReadLines, nullptr, Qt::CaseInsensitive);
+    return format;
+}
+
+}  // namespace
+
+IniSettings::IniSettings() : settings(RawIni(), QSettings::UserScope, "Tephrex3") {}
+
+std::string IniSettings::Read(const std::string& section, const std::string& key,
+                              const std::string& fallback) {
+    const QString group = QString::fromStdString(section).section('\\', -1);
+    const QVariant value = settings.value(group + '/' + QString::fromStdString(key));
+    return value.isValid() ? value.toByteArray().toStdString() : fallback;
+}

@@ -1,0 +1,102 @@
+#include "window/LineBox.h"
+
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QStyle>
+#include <QStyleOptionFrame>
+#include <utility>
+
+namespace {
+
+// As the toolkit sees it: Control and Alt together are the AltGr of some keyboards.
+bool IsCharacter(const QKeyEvent& event) {
+    const bool chord = event.modifiers().testFlag(Qt::ControlModifier) &&
+                       !event.modifiers().testFlag(Qt::AltModifier);
+    return !chord && !event.text().isEmpty() && event.text().front().isPrint();
+}
+
+bool IsPlainKey(const QKeyEvent& event) {
+    constexpr auto chords = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    const int key = event.key();
+    return (key == Qt::Key_Backspace || key == Qt::Key_Return || key == Qt::Key_Enter) &&
+           !(event.modifiers() & chords);
+}
+
+bool IsKeyPress(const QKeyEvent& event) {
+    return IsCharacter(event) || IsPlainKey(event) || event.matches(QKeySequence::Cut) ||
+           event.matches(QKeySequence::Paste);
+}
+
+}  // namespace
+
+LineBox::LineBox(QWidget* parent) : QLineEdit(parent) {
+    connect(this, &QLineEdit::textChanged, this, &LineBox::TellIfEdited);
+    connect(this, &QLineEdit::selectionChanged, this, &LineBox::TellIfMoved);
+    connect(this, &QLineEdit::cursorPositionChanged, this, &LineBox::TellIfMoved);
+}
+
+QSize LineBox::SizeFor(const QString& shown) const {
+    constexpr int sideMargins = 4;  // that the toolkit keeps free beside the text
+    constexpr int caret = 1;
+    QStyleOptionFrame option;
+    initStyleOption(&option);
+    option.rect = QRect(0, 0, 500, 500);
+    const QSize inside = style()->subElementRect(QStyle::SE_LineEditContents, &option, this).size();
+    const QSize text(fontMetrics().horizontalAdvance(shown) + sideMargins + caret,
+                     fontMetrics().height());
+    return text + option.rect.size() - inside;
+}
+
+void LineBox::TellIfEdited() {
+    if (!inKeyPress) {
+        emit Edited();
+    }
+}
+
+void LineBox::TellIfMoved() {
+    if (!inKeyPress) {
+        emit SelectionMoved();
+    }
+}
+
+void LineBox::keyPressEvent(QKeyEvent* event) {
+    inKeyPress = IsKeyPress(*event);
+    QLineEdit::keyPressEvent(event);
+    if (std::exchange(inKeyPress, false)) {
+        emit KeyPressed();
+    }
+}
+
+void LineBox::inputMethodEvent(QInputMethodEvent* event) {
+    inKeyPress = !event->commitString().isEmpty();
+    QLineEdit::inputMethodEvent(event);
+    if (std::exchange(inKeyPress, false)) {
+        emit KeyPressed();
+    }
+}
+
+void LineBox::focusInEvent(QFocusEvent* event) {
+    focusByMouse = event->reason() == Qt::MouseFocusReason;
+    QLineEdit::focusInEvent(event);
+}
+
+// The click that brings the focus leaves the whole text selected. It is not handed on, for it
+// would put the insertion point in place of the selection.
+void LineBox::mousePressEvent(QMouseEvent* event) {
+    clickSpent = std::exchange(focusByMouse, false) && event->button() == Qt::LeftButton;
+    if (!clickSpent) {
+        QLineEdit::mousePressEvent(event);
+    }
+}
+
+void LineBox::mouseMoveEvent(QMouseEvent* event) {
+    if (!clickSpent) {
+        QLineEdit::mouseMoveEvent(event);
+    }
+}
+
+void LineBox::mouseReleaseEvent(QMouseEvent* event) {
+    if (!std::exchange(clickSpent, false)) {
+        QLineEdit::mouseReleaseEvent(event);
+    }
+}

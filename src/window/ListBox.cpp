@@ -1,0 +1,88 @@
+#include "window/ListBox.h"
+
+#include <QAbstractItemView>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QStringListModel>
+#include <QStyleOptionComboBox>
+#include <QWheelEvent>
+#include <utility>
+
+namespace {
+
+bool MovesInList(int key) {
+    return key == Qt::Key_Up || key == Qt::Key_Down || key == Qt::Key_PageUp ||
+           key == Qt::Key_PageDown;
+}
+
+}  // namespace
+
+ListBox::ListBox(QWidget* parent) : QComboBox(parent), entries(new QStringListModel(this)) {
+    setEditable(true);
+    setCompleter(nullptr);
+    setInsertPolicy(QComboBox::NoInsert);
+    setFocusPolicy(Qt::StrongFocus);
+    setModel(entries);
+    connect(this, &QComboBox::activated, this, &ListBox::PickIfJustClosed);
+}
+
+void ListBox::SetEntries(const QStringList& shown) {
+    if (entries->stringList() != shown) {
+        entries->setStringList(shown);
+    }
+}
+
+QSize ListBox::SizeFor(const QString& shown) const {
+    constexpr int sideMargins = 4;  // that the toolkit keeps free beside the text
+    constexpr int caret = 1;
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    option.rect = QRect(0, 0, 500, 500);
+    const QSize inside = style()
+                             ->subControlRect(QStyle::CC_ComboBox, &option,
+                                              QStyle::SC_ComboBoxEditField, this)
+                             .size();
+    const QSize text(fontMetrics().horizontalAdvance(shown) + sideMargins + caret,
+                     fontMetrics().height());
+    return text + option.rect.size() - inside;
+}
+
+void ListBox::showPopup() {
+    const int wanted = view()->sizeHintForColumn(0) + 2 * view()->frameWidth() +
+                       view()->verticalScrollBar()->sizeHint().width();
+    view()->setMinimumWidth(wanted);
+    QComboBox::showPopup();
+    const QModelIndexList found =
+        entries->match(entries->index(0), Qt::DisplayRole, currentText(), 1, Qt::MatchExactly);
+    view()->setCurrentIndex(found.value(0));
+}
+
+// The toolkit closes the list and then says "activated". It says so on other occasions too, and
+// even of a text that code has set: they all begin with a key in the box or with leaving it.
+void ListBox::hidePopup() {
+    justClosed = true;
+    QComboBox::hidePopup();
+}
+
+void ListBox::PickIfJustClosed(int position) {
+    if (std::exchange(justClosed, false)) {
+        emit Picked(position);
+    }
+}
+
+void ListBox::keyPressEvent(QKeyEvent* event) {
+    justClosed = false;
+    if (MovesInList(event->key())) {
+        showPopup();  // to walk through a closed list would pick each entry on the way
+    } else {
+        QComboBox::keyPressEvent(event);
+    }
+}
+
+void ListBox::focusOutEvent(QFocusEvent* event) {
+    justClosed = false;
+    QComboBox::focusOutEvent(event);
+}
+
+void ListBox::wheelEvent(QWheelEvent* event) { event->ignore(); }

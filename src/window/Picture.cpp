@@ -1,0 +1,33 @@
+#include "window/Picture.h"
+
+#include <QEvent>
+#include <QToolTip>
+
+#include "window/ScreenText.h"
+
+Picture::Picture(const Subject& subject, QWidget& ownWidget)
+    : original(subject.control), row(subject.row), widget(ownWidget), mirror(subject.mirror) {
+    widget.setObjectName(ToScreen(row.name));
+    widget.setMouseTracking(true);
+    widget.ensurePolished();
+    widget.installEventFilter(this);
+}
+
+void Picture::Update() {
+    widget.setToolTip(ToScreen(original.ToolTipText()));
+    widget.setVisible(original.Visible());
+    widget.setEnabled(original.Enabled());
+}
+
+bool Picture::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::MouseMove) {
+        const Mirror::Act act(mirror);
+        original.MoveMouse();
+    }
+    if (event->type() == QEvent::ToolTip && widget.toolTip().isEmpty()) {
+        // Left to itself, the event would go on to the frame and show the frame's tip.
+        QToolTip::hideText();
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
+}

@@ -1,0 +1,57 @@
+// A picture: one control on the screen. It brings a widget up to date with its control, and hands
+// what the user does with the widget to the control's doors. The classes for the kinds of control
+// stand in Pictures.
+#pragma once
+
+#include <QObject>
+#include <QSize>
+#include <QWidget>
+
+#include "form/Catalogue.h"
+#include "form/Controls.h"
+#include "window/Mirror.h"
+
+/// What a picture is made of: a control, its row of the catalogue, the widget to sit on.
+struct Subject {
+    Control& control;
+    const CatalogueRow& row;
+    QWidget* parent;
+    Mirror& mirror;
+};
+
+class Picture : public QObject {
+public:
+    /// The widget belongs to the subject's parent.
+    Picture(const Subject& subject, QWidget& ownWidget);
+
+    Control& Original() const { return original; }
+    const CatalogueRow& Row() const { return row; }
+    QWidget& Widget() const { return widget; }
+
+    /// Brings the widget up to date; what is so already is not touched.
+    virtual void Update();
+
+    /// The smallest size at which the widget cuts nothing off such a text. The widget can be left
+    /// with that text until the next update.
+    virtual QSize SizeWith(const QString& text) = 0;
+
+protected:
+    /// An act of the user that arrived through the widget, unless it is an echo. The control may
+    /// refuse it, so the picture is brought up to date in any case.
+    template <class Deed>
+    void UserActs(Deed deed) {
+        if (!mirror.Updating()) {
+            const Mirror::Act act(mirror);
+            mirror.Mark(*this);
+            deed();
+        }
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    Control& original;
+    const CatalogueRow& row;
+    QWidget& widget;
+    Mirror& mirror;
+};

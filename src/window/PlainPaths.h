@@ -1,0 +1,9 @@
+// Paths are shown as they are.
+#pragma once
+
+#include "shell/Services.h"
+
+class PlainPaths : public PathHelper {
+public:
+    std::string DisplayPath(const std::string& path, int /*flag*/) override { return path; }
+};

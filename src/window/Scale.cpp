@@ -1,0 +1,87 @@
+#include "window/Scale.h"
+
+#include <algorithm>
+
+#include "rules/EruptionTypes.h"
+#include "window/ScreenText.h"
+
+namespace {
+
+constexpr double UsualScale = 96.0 / 1440;
+
+// What code and user bring to the texts of the catalogue: the widest, where the eye can tell.
+constexpr NamedText LaterTexts[]{
+    {"Command1", "Close"},
+    {"Command2", "Save"},
+    {"labPhases", "500"},
+    {"chkCald", "Caldera"},
+    {"chkCald", "Diatreme"},
+    {"labSlide4", "Vent Position"},
+    {"labSlide4", "Burst Frequency"},
+    {"cmbPhase", "Add Phase"},
+    {"cmbPhase", "Phase 500"},
+    {"cmbType", "Vulcanian/Surtseyan"},
+    {"cmbType", "Fumarolic/Phreatic"},
+    {"cmbStyle", VallesEntry},
+    {"cmbStyle", MazamaEntry},
+    {"cmbDown", LeftEntry},
+    {"cmbDown", RightEntry},
+    {"cmbFlow", "Flow 100 Duration"},
+    {"txtLoc", "123.00"},
+    {"txtStr", "2.00"},
+    {"txtWind", "-50.00"},
+    {"txtPart", "49.99"},
+    {"txtBurst", "32767"},
+    {"txtCtop", "123.00"},
+    {"txtCbase", "123.00"},
+    {"txtMag", "20"},
+    {"txtDip", "-10"},
+    {"txtErode", "32767"},
+    {"txtLava", "1800.0"},
+    {"txtSlide1", "11"},
+    {"txtSlide2", "11"},
+    {"txtSlide3", "40"},
+    {"txtSlide4", "11"},
+    {"txtSlide5", "9"},
+    {"txtSlide6", "11"},
+    {"txtMap1", "640"},
+    {"txtMap2", "-1.00"},
+    {"txtMap3", "-4.00"},
+    {"txtMap4", "-4.00"},
+};
+
+// Of a frame it is the strip above the first control in it, where the frame has its title.
+int Headroom(const CatalogueRow& row) {
+    int room = row.height;
+    for (const CatalogueRow& other : Catalogue()) {
+        if (row.kind == Kind::Frame && other.frame == row.name) {
+            room = std::min(room, other.top);
+        }
+    }
+    return room;
+}
+
+}  // namespace
+
+QStringList TextsToFit(const CatalogueRow& row) {
+    QStringList texts{ToScreen(row.caption)};
+    for (const NamedText& later : LaterTexts) {
+        if (later.control == row.name) {
+            texts += ToScreen(later.text);
+        }
+    }
+    return texts;
+}
+
+double FittingScale(const Pictures& pictures) {
+    double scale = UsualScale;
+    for (const auto& picture : pictures) {
+        const CatalogueRow& row = picture->Row();
+        for (const QString& text : TextsToFit(row)) {
+            const QSize size = picture->SizeWith(text);
+            scale = std::max({scale, 1.0 * size.width() / row.width,
+                              1.0 * size.height() / Headroom(row)});
+        }
+    }
+    return scale;
+}

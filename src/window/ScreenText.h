@@ -1,0 +1,20 @@
+// Texts on the screen: between the bytes that a control holds and the characters that a widget
+// shows. Paths of the file system are not turned here, but by the toolkit.
+#pragma once
+
+#include <QString>
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+/// UTF-8 is shown as such. Bytes that are not UTF-8 as a whole are taken for Windows-1252, in
+/// which any byte is some character.
+QString ToScreen(std::string_view bytes);
+
+/// What the user wrote, as UTF-8.
+std::string FromScreen(const QString& shown);
+
+/// A place in a text, counted in bytes, as a place in the text on show, and back. A place behind
+/// the end counts as the end.
+int ScreenPlace(std::string_view bytes, std::size_t place);
+std::size_t BytePlace(std::string_view bytes, int place);
