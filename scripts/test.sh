@@ -1,0 +1,9 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds everything and runs all tests. Further arguments go to the
+# configuration, as in: scripts/test.sh -DTEPHREX_WERROR=ON
+. "$(dirname "$0")/lib.sh"
+
+install_missing "${build_packages[@]}" "${screen_packages[@]}" libgtest-dev
+cmake --preset default -DBUILD_TESTING=ON "$@"
+cmake --build --preset default -j "$(nproc)"
+ctest --preset default -j "$(nproc)"

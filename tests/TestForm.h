@@ -1,0 +1,191 @@
+// A form on a platform of a few lines: messages are kept, dialogs answer from a queue. Tests drive
+// it through the controls' doors, as a user does.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <memory>
+#include <optional>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "form/RecordEdit.h"
+#include "form/Wiring.h"
+#include "record/RecordFile.h"
+#include "shell/Startup.h"
+
+struct Message {
+    std::string text;
+    MessageIcon icon;
+    std::string title;
+    friend bool operator==(const Message&, const Message&) = default;
+};
+
+class TestPlatform : public MessageBoxes, public FileDialogs, public HelpViewer, public Window {
+public:
+    explicit TestPlatform(Form& theForm) : form(theForm) {}
+
+    std::vector<Message> messages;
+    std::function<void()> whileMessageShows;
+    std::deque<std::optional<std::string>> answers;  // to dialogs: a name, or nothing to cancel
+    std::vector<std::string> offered;                // the name that each dialog came up with
+    std::vector<int> helpCommands;
+    std::string dataPath;
+    Extent screen{19200, 14400};
+    Extent size{7800, 6400};
+    int left = 0;
+    int top = 0;
+
+    void Show(const std::string& text, MessageIcon icon, std::string_view title) override {
+        messages.push_back({text, icon, std::string(title)});
+        if (whileMessageShows) {
+            whileMessageShows();
+        }
+    }
+    bool AskOpen(CommonDialog& dialog) override { return Ask(dialog); }
+    bool AskSave(CommonDialog& dialog) override { return Ask(dialog); }
+    void ShowHelp(const CommonDialog& dialog) override {
+        helpCommands.push_back(dialog.HelpCommand);
+    }
+    Extent ScreenSize() override { return screen; }
+    Extent FormSize() override { return size; }
+    void Move(int newLeft, int newTop) override { left = newLeft, top = newTop; }
+    void Show() override {}
+    void RunPendingEvents() override {}
+    void Unload() override { form.Unload(); }
+
+private:
+    bool Ask(CommonDialog& dialog) {
+        offered.push_back(dialog.FileName);
+        if (answers.empty() || !answers.front()) {
+            if (!answers.empty()) {
+                answers.pop_front();
+            }
+            return false;
+        }
+        dialog.FileName = *answers.front();
+        answers.pop_front();
+        return true;
+    }
+    Form& form;
+};
+
+class TestPathHelper : public PathHelper {
+public:
+    std::string DisplayPath(const std::string& path, int) override { return path; }
+};
+
+class TestSettings : public SettingsStore {
+public:
+    explicit TestSettings(std::string path) : dataPath(std::move(path)) {}
+    std::string Read(const std::string& section, const std::string& key,
+                     const std::string& fallback) override {
+        return section == "Tephrex3\\Settings" && key == "DataPath" ? dataPath : fallback;
+    }
+
+private:
+    std::string dataPath;
+};
+
+/// A folder that goes with the test.
+class TempFolder {
+public:
+    TempFolder() {
+        std::string name = (std::filesystem::temp_directory_path() / "tephrexXXXXXX").string();
+        path = mkdtemp(name.data());
+    }
+    ~TempFolder() { std::filesystem::remove_all(path); }
+    TempFolder(const TempFolder&) = delete;
+    TempFolder& operator=(const TempFolder&) = delete;
+    std::string operator/(const std::string& name) const { return (path / name).string(); }
+
+private:
+    std::filesystem::path path;
+};
+
+inline std::string ReadBytes(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+}
+
+inline void WriteBytes(const std::string& path, const std::string& bytes) {
+    std::ofstream(path, std::ios::binary) << bytes;
+}
+
+class FormTest : public testing::Test {
+protected:
+    std::unique_ptr<RecordEdit> owner = std::make_unique<RecordEdit>();
+    RecordEdit& form = *owner;
+    TestPlatform platform{form};
+    TempFolder folder;
+
+    /// Brings the form up as the program does.
+    void Load() {
+        form.services = {&platform,
+                         &platform,
+                         &platform,
+                         &platform,
+                         [] { return std::make_unique<TestPathHelper>(); },
+                         [this] { return std::make_unique<TestSettings>(platform.dataPath); },
+                         "/opt/tephrex"};
+        Wire(form);
+        Form_Load(form);
+    }
+
+    void SetUp() override { Load(); }
+
+    /// Opens a record of these phases at normal scale through the form, from a file.
+    void Open(const std::vector<PhaseRecord>& phases, const std::vector<Single>& flows = {}) {
+        auto record = std::make_unique<EditorState>();
+        record->RecordScale = 20;
+        for (const PhaseRecord& phase : phases) {
+            record->LoadedPhases[++record->LoadedPhaseCount] = phase;
+            for (int j = 1; j <= static_cast<int>(flows.size()); ++j) {
+                record->LoadedFlows[record->LoadedPhaseCount][j] =
+                    flows[static_cast<std::size_t>(j) - 1];
+            }
+        }
+        const std::string path = folder / "test.rec";
+        ASSERT_TRUE(WriteRecordFile(path, *record));
+        platform.answers.push_back(path);
+        form.cmdOpen.Press();
+        ASSERT_EQ(form.EditPhaseCount, record->LoadedPhaseCount);
+    }
+
+    /// Picks an entry of a list by its text, as the user does.
+    static void Pick(ComboBox& box, const std::string& entry) {
+        for (std::size_t i = 0; i < box.Entries().size(); ++i) {
+            if (box.Entries()[i] == entry) {
+                box.Pick(i);
+                return;
+            }
+        }
+        FAIL() << "no entry " << entry;
+    }
+};
+
+/// A phase that passes every check at normal scale; of a type with flows it has none.
+inline PhaseRecord GoodPhase(Integer eruptionType) {
+    PhaseRecord phase;
+    phase.eruptionType = eruptionType;
+    phase.ventLocation = 12;
+    phase.strength = 0.5F;
+    phase.wind = 10;
+    phase.massFlux = 20;
+    phase.scarpTop = 5;
+    phase.scarpBase = 8;
+    phase.burstCount = 1;
+    phase.tectonicKind = TectonicKind::Faulting;
+    phase.faultMagnitude = 1;
+    phase.faultDownSide = DownSide::Left;
+    phase.erosionCycles = 1;
+    phase.flowLength = phase.craterSize = phase.ventPosition = phase.growth = 6;
+    phase.position3D = 20;
+    phase.speed = 1;
+    return phase;
+}

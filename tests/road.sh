@@ -1,0 +1,76 @@
+#!/usr/bin/env bash
+# road.sh PROGRAM: the whole road from nothing, in a real window with real mouse and keys: nine
+# phases, one of each kind, a stratigraphic file, a scale, saved, opened again and saved again as
+# the same record; then 500 phases and the refusal of one more. Leaves pictures.
+. "$(dirname "$0")/../scripts/lib.sh"
+. scripts/screen.sh
+
+add_phase() {
+    press Add
+    pick Type "$1"
+}
+
+start_editor "$1" "$home/"
+touch "$home/strata.str"
+
+add_phase 0 # Hawaiian
+fill Loc 12
+fill Burst 3
+fill Lava 500
+picture road-hawaiian
+add_phase 1 # Peléean
+fill Loc 12.5
+add_phase 2 # Strombolian
+fill Loc 13
+fill Str 1.5
+add_phase 3 # Plinian
+fill Loc 14
+fill Str 0.9
+press Cald
+pick Style 1
+picture road-plinian
+add_phase 4 # Vulcanian/Surtseyan
+fill Loc 15
+fill Str 0.5
+add_phase 5 # Fumarolic/Phreatic
+fill Loc 16
+fill Str 0.2
+add_phase 6 # Sector Collapse
+fill Ctop 10
+fill Cbase 12.25
+add_phase 7 # Faulting
+fill Loc 20
+pick Down 1
+add_phase 8 # Erosion
+fill Erode 4
+picture road-erosion
+
+press Change
+answer_dialog "Open Stratigraphic File" "$home/strata.str"
+press Large
+press Save
+answer_dialog "Save Record File" "$home/first"
+wait_until test -s "$home/first.rec"
+
+press Open
+answer_dialog "Open Record File" "$home/first.rec"
+picture road-opened
+fill Loc 12
+press Save
+answer_dialog "Save Record File" "$home/second.rec"
+wait_until test -s "$home/second.rec"
+diff "$home/first.rec" "$home/second.rec" || fail "the record changed on its way"
+[ "$(grep -c 'Record Phase' "$home/first.rec")" = 9 ] || fail "not nine phases"
+grep -q '"Stratigraphic file:","'"$home"'/strata.str"' "$home/first.rec" || fail "no strata"
+grep -q '"Recorded phases",9,100' "$home/first.rec" || fail "not at large scale"
+
+xdotool mousemove --window "$form" $((3787 * WIDTH / 7665)) $((2287 * HEIGHT / 5970)) \
+    click --repeat 491 --delay 15 1
+sleep 1
+no_window_named "^TephrexEdit$" || fail "refused before there were 500 phases"
+press Add
+await "^TephrexEdit$"
+picture road-full
+keys Return
+await_gone "^TephrexEdit$"
+close_editor
