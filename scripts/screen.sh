@@ -47,14 +47,18 @@ await() {
 }
 await_gone() { wait_until no_window_named "$1"; }
 
-# start_editor PROGRAM DATA_FOLDER: with a home of its own, which nothing of the user's reaches.
+# start_editor PROGRAM [DATA_FOLDER]: with a home of its own, which nothing of the user's reaches,
+# and without a data folder with no settings of its own.
 start_editor() {
     mkdir -p "$home/.config" "$home/run"
     chmod 700 "$home/run"
-    printf '[Settings]\nDataPath=%s\n' "$2" >"$home/.config/Tephrex3.ini"
+    if [ $# -gt 1 ]; then
+        printf '[Settings]\nDataPath=%s\n' "$2" >"$home/.config/Tephrex3.ini"
+    fi
     openbox >/dev/null 2>&1 &
-    wait_until xdotool get_desktop # the window manager has taken over
-    HOME=$home XDG_CONFIG_HOME=$home/.config XDG_RUNTIME_DIR=$home/run "$1" &
+    wait_until xdotool get_desktop # a window that comes up before it does can get lost
+    env -u XDG_CONFIG_DIRS HOME="$home" XDG_CONFIG_HOME="$home/.config" \
+        XDG_RUNTIME_DIR="$home/run" "$1" &
     editor=$!
     await "Edit Tephrex Record"
     form=$(window_named "Edit Tephrex Record" | tail -n 1)

@@ -1,0 +1,37 @@
+# Run while installing: fills the folders of the installation into the settings and the manual,
+# and compresses what is read compressed.
+
+# full(RESULT FOLDER): a folder below the prefix, or one of its own. What belongs to /usr has its
+# settings in /etc.
+function(full result folder)
+  cmake_path(SET prefix NORMALIZE "${CMAKE_INSTALL_PREFIX}/.")
+  if(folder STREQUAL "etc" AND prefix STREQUAL "/usr/")
+    set(prefix "/")
+  endif()
+  cmake_path(ABSOLUTE_PATH folder BASE_DIRECTORY "${prefix}" NORMALIZE)
+  set(${result} "${folder}" PARENT_SCOPE)
+endfunction()
+
+# compress(SOURCE RESULT): with no time in it, so that the same text gives the same file.
+function(compress source result)
+  execute_process(COMMAND gzip -9nc "${source}" OUTPUT_FILE "${result}" COMMAND_ERROR_IS_FATAL ANY)
+endfunction()
+
+full(datadir "${CMAKE_INSTALL_DATADIR}")
+full(mandir "${CMAKE_INSTALL_MANDIR}")
+full(sysconfdir "${CMAKE_INSTALL_SYSCONFDIR}")
+full(libdir lib)
+
+set(filled "${TEPHREX_FILLED_IN}")
+configure_file("${TEPHREX_SOURCE}/data/desktop/Tephrex3.ini.in" "${filled}/Tephrex3.ini" @ONLY)
+configure_file("${TEPHREX_SOURCE}/data/desktop/tephrexedit.1.in" "${filled}/tephrexedit.1" @ONLY)
+compress("${filled}/tephrexedit.1" "${filled}/tephrexedit.1.gz")
+compress("${TEPHREX_SOURCE}/packaging/changelog" "${filled}/changelog.gz")
+
+file(INSTALL "${filled}/Tephrex3.ini" DESTINATION "${sysconfdir}/xdg")
+file(INSTALL "${filled}/tephrexedit.1.gz" DESTINATION "${mandir}/man1")
+file(INSTALL "${filled}/changelog.gz" DESTINATION "${datadir}/doc/tephrexedit")
+
+if(NOT sysconfdir STREQUAL "/etc")
+  message(STATUS "The settings are found when XDG_CONFIG_DIRS names ${sysconfdir}/xdg")
+endif()

@@ -1,0 +1,41 @@
+# Where everything goes on `cmake --install`, and the package that cpack makes of it.
+# Wants the target tephrexedit: without the window there is nothing to install.
+
+if(NOT TARGET tephrexedit)
+  return()
+endif()
+include(GNUInstallDirs)
+include(${CMAKE_CURRENT_LIST_DIR}/Icons.cmake)
+include(${CMAKE_CURRENT_LIST_DIR}/Package.cmake)
+
+# The program and its help file stand in a folder of their own, whatever the platform calls the
+# folder of its libraries; what people start is a link to it.
+set(TEPHREX_PROGRAM_DIR lib/tephrexedit)
+install(TARGETS tephrexedit RUNTIME DESTINATION ${TEPHREX_PROGRAM_DIR})
+install(FILES data/Tephrex3.hlp DESTINATION ${TEPHREX_PROGRAM_DIR})
+
+file(RELATIVE_PATH from_bin
+  ${CMAKE_INSTALL_FULL_BINDIR} ${CMAKE_INSTALL_PREFIX}/${TEPHREX_PROGRAM_DIR}/tephrexedit)
+file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/installed/bin)
+file(CREATE_LINK ${from_bin} ${PROJECT_BINARY_DIR}/installed/bin/tephrexedit SYMBOLIC)
+install(FILES ${PROJECT_BINARY_DIR}/installed/bin/tephrexedit
+  DESTINATION ${CMAKE_INSTALL_BINDIR})
+
+install(FILES data/TephrexDemo.rec DESTINATION ${CMAKE_INSTALL_DATADIR}/tephrexedit)
+install(FILES data/desktop/tephrexedit.desktop
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+install(FILES data/desktop/org.example.tephrexedit.metainfo.xml
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
+install(FILES data/desktop/tephrexedit-mime.xml
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages RENAME tephrexedit.xml)
+install(FILES packaging/copyright DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/tephrexedit)
+
+# These name folders of the installation, and so wait for the prefix that it is given.
+install(CODE "
+  set(PROJECT_VERSION \"${PROJECT_VERSION}\")
+  set(TEPHREX_SOURCE \"${PROJECT_SOURCE_DIR}\")
+  set(TEPHREX_FILLED_IN \"${PROJECT_BINARY_DIR}/installed\")
+  set(CMAKE_INSTALL_DATADIR \"${CMAKE_INSTALL_DATADIR}\")
+  set(CMAKE_INSTALL_MANDIR \"${CMAKE_INSTALL_MANDIR}\")
+  set(CMAKE_INSTALL_SYSCONFDIR \"${CMAKE_INSTALL_SYSCONFDIR}\")
+  include(\"${CMAKE_CURRENT_LIST_DIR}/FilledIn.cmake\")")

@@ -1,0 +1,36 @@
+# Turns a picture in XPM into an SVG of the same pixels, for the sizes that were drawn by hand.
+
+# pixel_art(XPM SVG): one character per pixel, as all pictures of the program have it.
+function(pixel_art xpm svg)
+  file(STRINGS ${xpm} lines REGEX "^\"")
+  list(TRANSFORM lines REPLACE "^\"(.*)\".*" "\\1")
+  list(POP_FRONT lines header)
+  string(REGEX MATCHALL "[0-9]+" header "${header}")
+  list(GET header 0 width)
+  list(GET header 1 height)
+  list(GET header 2 colours)
+
+  foreach(_ RANGE 1 ${colours})
+    list(POP_FRONT lines entry)
+    string(REGEX MATCH "^(.)[ \t]+c[ \t]+(.*)" _ "${entry}")
+    list(APPEND keys "${CMAKE_MATCH_1}")
+    list(APPEND values "${CMAKE_MATCH_2}")
+  endforeach()
+
+  set(shapes "")
+  set(y 0)
+  foreach(line IN LISTS lines)
+    math(EXPR last "${width} - 1")
+    foreach(x RANGE ${last})
+      string(SUBSTRING "${line}" ${x} 1 key)
+      list(FIND keys "${key}" found)
+      list(GET values ${found} colour)
+      if(NOT colour STREQUAL "None")
+        string(APPEND shapes "<path fill=\"${colour}\" d=\"M${x} ${y}h1v1h-1z\"/>\n")
+      endif()
+    endforeach()
+    math(EXPR y "${y} + 1")
+  endforeach()
+  file(WRITE ${svg} "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"${width}\" \
+height=\"${height}\" shape-rendering=\"crispEdges\">\n${shapes}</svg>\n")
+endfunction()

@@ -1,0 +1,59 @@
+#!/usr/bin/env bash
+# package.sh BUILD: makes the Debian package of an existing build, has it judged, installs it, opens
+# the demonstration record as a new user would, and removes it again. A tephrexedit that is
+# installed on the machine goes with it. Prints the paths of the pictures that it took.
+build=$(realpath "$1")
+. "$(dirname "$0")/../scripts/lib.sh"
+install_missing "${screen_packages[@]}" dpkg-dev file desktop-file-utils appstream lintian man-db \
+    shared-mime-info
+. scripts/screen.sh
+
+give_up() {
+    echo "package: $*" >&2
+    exit 1
+}
+
+# The package and what is in it.
+rm -f "$build"/tephrexedit_*.deb
+(cd "$build" && cpack >"$home/cpack.log") || give_up "$(cat "$home/cpack.log")"
+package=$(ls "$build"/tephrexedit_*.deb)
+dpkg-deb -x "$package" "$home/tree"
+share=$home/tree/usr/share
+[ "$(find "$share/icons" -name '*.png' | wc -l)" -eq 22 ] ||
+    give_up "icons are missing: was rsvg-convert there when the build was configured?"
+desktop-file-validate "$share/applications/tephrexedit.desktop"
+appstreamcli validate --no-net "$share"/metainfo/*.xml
+remarks=$(man --warnings -E UTF-8 -Tutf8 -Z -l "$share"/man/man1/*.gz 2>&1 >/dev/null) ||
+    remarks="man failed: $remarks"
+[ -z "$remarks" ] || give_up "the manual: $remarks"
+lintian --fail-on error "$package"
+
+# names: every file that an installation could leave behind.
+names() { as_root find /etc /opt /usr /var/lib/dpkg/info | sort; }
+if is_installed tephrexedit; then as_root dpkg -P tephrexedit; fi
+names >"$home/before"
+as_root dpkg -i "$package"
+[ "$(command -v tephrexedit)" = /usr/bin/tephrexedit ] || give_up "not in the search path"
+program=$(readlink -f /usr/bin/tephrexedit)
+[ -f "${program%/*}/Tephrex3.hlp" ] || give_up "the help file is not beside $program"
+[ -f /usr/share/mime/application/x-tephrex-record.xml ] || give_up "records have no type"
+
+# A new user has no settings: the system-wide ones name the folder of the demonstration record.
+start_editor tephrexedit
+press Open
+answer_dialog "Open Record File" TephrexDemo.rec
+picture installed
+
+# What was opened is what can be saved: the demonstration record's phases.
+fill Loc 9.5
+press Save
+answer_dialog "Save Record File" "$home/Copy.rec"
+wait_until test -s "$home/Copy.rec"
+close_editor
+diff <(grep -a phases /usr/share/tephrexedit/TephrexDemo.rec) <(grep -a phases "$home/Copy.rec")
+
+as_root dpkg -P tephrexedit
+names >"$home/after"
+left=$(comm -13 "$home/before" "$home/after")
+[ -z "$left" ] || give_up "left behind: $left"
+echo "The package was installed, used and removed: $package"
