@@ -27,7 +27,7 @@ bool IsBeyondOne(std::string_view digits) {
     }
     const auto point = static_cast<long>(std::min(mantissa.find('.'), mantissa.size()));
     const auto first = static_cast<long>(mantissa.find_first_of("123456789"));
-    return point - first + exponent > 0;
+    return exponent > first - point;
 }
 
 template <class Number>

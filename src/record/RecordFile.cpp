@@ -128,10 +128,13 @@ private:
         }
     }
 
+    // However much there is to skip, it belongs to one item, and an item has an end.
     template <class Condition>
     void SkipWhile(Condition condition) {
-        while (More() && condition()) {
-            ++at;
+        for (std::size_t skipped = 0; More() && condition(); ++at) {
+            if (++skipped > LongestItem) {
+                throw ReadError("Item too long");
+            }
         }
     }
 
@@ -152,20 +155,26 @@ private:
 
     bool More() { return at < end || Refill(); }
 
-    // Brings in another piece behind what is not yet taken; false at the end of the stream.
+    // Brings in another piece behind what is not yet taken; false at the end of the stream, which
+    // stays the end even if the stream has more to give after a fault.
     bool Refill() {
+        if (ended) {
+            return false;
+        }
         std::memmove(buffer.data(), buffer.data() + at, end - at);
         end -= at;
         at = 0;
         const std::streamsize got = source.sgetn(buffer.data() + end, Piece);
-        end += got > 0 ? static_cast<std::size_t>(got) : 0;
-        return got > 0;
+        ended = got <= 0;
+        end += ended ? 0 : static_cast<std::size_t>(got);
+        return !ended;
     }
 
     std::streambuf& source;
     std::vector<char> buffer;
     std::size_t at = 0;
     std::size_t end = 0;
+    bool ended = false;
     Behind behind = Behind::Nothing;
 };
 

@@ -26,10 +26,8 @@ void ShowCentred(RecordEdit& form) {
         const Extent size = window.FormSize();
         window.Move((screen.width - size.width) / 2, (screen.height - size.height) / 2);
     });
-    Try([&] {
-        window.Show();
-        window.RunPendingEvents();
-    });
+    Try([&] { window.Show(); });
+    Try([&] { window.RunPendingEvents(); });
 }
 
 void FillFixedLists(RecordEdit& form) {

@@ -161,9 +161,9 @@ void FormWindow::FollowFocus(QWidget* now) {
 }
 
 Picture* FormWindow::Find(std::string_view name) const {
-    const auto found =
-        std::find_if(pictures.begin(), pictures.end(),
-                     [name](const auto& picture) { return picture->Row().name == name; });
+    const auto found = std::find_if(pictures.begin(), pictures.end(), [name](const auto& picture) {
+        return picture->Row().name == name;
+    });
     return found == pictures.end() ? nullptr : found->get();
 }
 

@@ -39,10 +39,10 @@ QSize ListBox::SizeFor(const QString& shown) const {
     QStyleOptionComboBox option;
     initStyleOption(&option);
     option.rect = QRect(0, 0, 500, 500);
-    const QSize inside = style()
-                             ->subControlRect(QStyle::CC_ComboBox, &option,
-                                              QStyle::SC_ComboBoxEditField, this)
-                             .size();
+    const QSize inside =
+        style()
+            ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this)
+            .size();
     const QSize text(fontMetrics().horizontalAdvance(shown) + sideMargins + caret,
                      fontMetrics().height());
     return text + option.rect.size() - inside;

@@ -172,9 +172,8 @@ public:
         connect(&widget, &ListBox::Picked, this, [this](int position) {
             UserActs([this, position] { control.Pick(static_cast<std::size_t>(position)); });
         });
-        connect(&widget, &QComboBox::editTextChanged, this, [this] {
-            UserActs([this] { TakeText(); });
-        });
+        connect(&widget, &QComboBox::editTextChanged, this,
+                [this] { UserActs([this] { TakeText(); }); });
     }
 
     void Update() override {

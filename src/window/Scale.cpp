@@ -79,8 +79,8 @@ double FittingScale(const Pictures& pictures) {
         const CatalogueRow& row = picture->Row();
         for (const QString& text : TextsToFit(row)) {
             const QSize size = picture->SizeWith(text);
-            scale = std::max({scale, 1.0 * size.width() / row.width,
-                              1.0 * size.height() / Headroom(row)});
+            scale = std::max(
+                {scale, 1.0 * size.width() / row.width, 1.0 * size.height() / Headroom(row)});
         }
     }
     return scale;

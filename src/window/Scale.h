@@ -10,9 +10,9 @@
 
 using Pictures = std::vector<std::unique_ptr<Picture>>;
 
-/// Logical pixels to the twip: 96 pixels to the inch, enlarged until the widgets cut off no caption,
-/// list entry or value in range in the font that they have. The widgets are left with other texts;
-/// their pictures have to be brought up to date.
+/// Logical pixels to the twip: 96 pixels to the inch, enlarged until the widgets cut off no
+/// caption, list entry or value in range in the font that they have. The widgets are left with
+/// other texts; their pictures have to be brought up to date.
 double FittingScale(const Pictures& pictures);
 
 /// The texts that a control shows at its start and later, or the widest of them. Paths, of any
