@@ -1,0 +1,122 @@
+// Disks that fail at any call and behind any byte, and files and names of the odder kind.
+#include <sys/resource.h>
+
+#include <chrono>
+#include <csignal>
+
+#include "TestForm.h"
+
+namespace {
+
+// A file that gives five bytes a call. One call fails, in every other way all behind it too; by
+// telling so or, from way 2 on, by throwing.
+struct Disk : std::streambuf {
+    std::string bytes;
+    std::size_t failing, way, calls = 0, at = 0;
+
+    Disk(std::string content, std::size_t failingCall, std::size_t itsWay)
+        : bytes(std::move(content)), failing(failingCall), way(itsWay) {}
+    bool Fails() {
+        const bool fails = calls == failing || (way % 2 != 0 && calls > failing);
+        ++calls;
+        return fails && way > 1 ? throw std::ios_base::failure("broken medium") : fails;
+    }
+    std::streamsize xsgetn(char* to, std::streamsize) override {
+        const std::size_t given = Fails() ? 0 : bytes.copy(to, 5, at);
+        at += given;
+        return static_cast<std::streamsize>(given);
+    }
+    std::streamsize xsputn(const char* from, std::streamsize size) override {
+        const std::streamsize taken = Fails() ? size / 2 : size;
+        bytes.append(from, static_cast<std::size_t>(taken));
+        return taken;
+    }
+    int sync() override { return Fails() ? -1 : 0; }
+};
+
+class DiskFaultsTest : public FormTest {
+protected:
+    const std::string test = folder / "test.rec", copy = folder / "copy.rec";
+    std::string whole;
+    const std::ptrdiff_t descriptors = Descriptors();
+
+    void SetUp() override {
+        FormTest::SetUp();
+        Open({GoodPhase(EruptionType::Hawaiian), GoodPhase(EruptionType::Plinian)}, {300});
+        whole = ReadBytes(test);
+    }
+    void TearDown() override { EXPECT_EQ(Descriptors(), descriptors); }
+    static std::ptrdiff_t Descriptors() {
+        return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {});
+    }
+    bool SaveWithin(decltype(RLIMIT_FSIZE) resource, rlim_t amount) {
+        form.txtWind.PressKey("10");
+        platform.answers = {copy};
+        rlimit before{};
+        getrlimit(resource, &before);
+        const rlimit lower{amount, before.rlim_max};
+        setrlimit(resource, &lower);
+        form.Command2.Press();
+        setrlimit(resource, &before);
+        return !form.Command2.Enabled();
+    }
+};
+
+TEST_F(DiskFaultsTest, ACallThatFailsIsTheEndAndWhatCameBeforeItIsKept) {
+    const auto broken = std::make_unique<EditorState>(), cut = std::make_unique<EditorState>();
+    form.StratFile.assign(40000, 'x');  // too much for one call
+    Disk good("", whole.size(), 0);
+    ASSERT_TRUE(WriteRecord(good, form));
+    for (std::size_t n = 0; n < 4 * (whole.size() / 5); ++n) {
+        const std::size_t way = n % 4, call = n / 4;
+        *broken = *cut = EditorState{};
+        Disk disk(whole, call, way), full("", call % good.calls, way);
+        const std::string start = whole.substr(0, 5 * call);  // an exception takes an item with it
+        std::stringbuf end(way > 1 ? start.substr(0, start.find_last_of(",\n") + 1) : start);
+        EXPECT_FALSE(ReadRecord(disk, *broken) || ReadRecord(end, *cut)) << way << ' ' << call;
+        EXPECT_TRUE(broken->LoadedPhases == cut->LoadedPhases) << way << ' ' << call;
+        EXPECT_TRUE(!WriteRecord(full, form) && good.bytes.starts_with(full.bytes)) << n;
+    }
+}
+
+TEST_F(DiskFaultsTest, AFullDiskKeepsWhatItTookAndTheNextSaveIsWhole) {
+    std::signal(SIGXFSZ, SIG_IGN);
+    EXPECT_FALSE(SaveWithin(RLIMIT_NOFILE, 0));
+    for (std::size_t room = 0; room <= whole.size(); ++room) {
+        EXPECT_EQ(SaveWithin(RLIMIT_FSIZE, room), room == whole.size());
+        ASSERT_EQ(ReadBytes(copy), whole.substr(0, room));
+    }
+    EXPECT_EQ(platform.messages.size(), whole.size() + 1);
+}
+
+TEST_F(DiskFaultsTest, AFileThatCannotBeReadIsLeftAtOnceAndClosed) {
+    std::filesystem::create_symlink("loop", folder / "loop");
+    WriteBytes(folder / "huge", "\"\"");
+    std::filesystem::resize_file(folder / "huge", std::uintmax_t{1} << 31U);
+    std::filesystem::resize_file(test, std::uintmax_t{1} << 31U);  // all of it behind the record
+    const auto start = std::chrono::steady_clock::now();
+    rusage before{}, after{};
+    getrusage(RUSAGE_SELF, &before);
+    // The memory of a process is a regular file whose first byte cannot be read.
+    platform.answers = {folder / "loop", folder / "huge", "/proc/self/mem", test};
+    while (!platform.answers.empty()) {
+        form.txtWind.PressKey("11");
+        form.cmdOpen.Press();
+        EXPECT_EQ(form.Command2.Enabled(), form.RecFile != test) << form.RecFile;
+    }
+    getrusage(RUSAGE_SELF, &after);
+    EXPECT_LT(after.ru_maxrss - before.ru_maxrss, 64 * 1024);
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(1));
+}
+
+TEST_F(DiskFaultsTest, NamesAreBytes) {
+    const std::string reference = "x\r\n,\xE9\xFF\n.str", odd = folder / "a\n \"\\\xE9\xFF.rec";
+    platform.answers = {reference, odd, odd};
+    form.cmdChange.Press();
+    form.Command2.Press();
+    form.StratFile.clear();
+    form.cmdOpen.Press();
+    EXPECT_EQ(form.EditStratFile, reference);
+}
+
+}  // namespace
