@@ -11,14 +11,12 @@ namespace {
 
 using namespace std::string_literals;
 
-std::string Replaced(const std::string& text, const std::string& from, const std::string& to) {
-    return std::regex_replace(text, std::regex(from), to);
-}
+// clang-format off
+std::string Replaced(const std::string& text, const std::string& from, const std::string& to) { return std::regex_replace(text, std::regex(from), to); }
 
 constexpr auto No = std::nullopt;
 const std::string Longest(65535, 'x'), Zeros(400, '0');
 
-// clang-format off
 const std::string Sample = Replaced("\"Stratigraphic file:\",\"\"\n\"Recorded phases\",2,20\n"
     "\n\"Record Phase: \",1\n12.5,5,1,10\n2000,0,0,0\n0,0,0,0\n0,0,0,0,0\n5,5,20,5,5,5\n0,0,0,0\n"
     "\n\"Record Phase: \",2\n12.5,3,1,10\n2000,0,0,0\n0,0,2,0\n0,0,0,0,0\n5,5,20,5,5,5\n0,0,0,0\n300\n1200\n", "\n", "\r\n");
@@ -28,13 +26,12 @@ const std::string Distinct = Replaced("\"Stratigraphic file:\",\"C\"\n\"Recorded
     "\"Record Phase: \",1\n1.5,4,3.5,-4\n5.25,6,7,8\n9,10,1,17\n12,13,14,15,16\n18,19,20,21,22,23\n24,25,26,-0.125\n1200.5\n\n"
     "\"Record Phase: \",2\n9999999,5,1E+07,-1.234568E+07\n12.35,0,0,0\n0.0001,9.5E-05,3,0\n0,0,0,0,0\n0,0,0,0,0,0\n"
     "-3.402823E+38,1E-05,0.5,1.5E+07\n", "\n", "\r\n");
-const PhaseRecord DistinctPhase{1.5F, 4, 3.5F, -4, 5.25F, 6, 7, 8, 9, 10, 1, 12, 13, 14, 15, 16, 17,
-                                18, 19, 20, 21, 22, 23, 24, 25, 26, -0.125F};
+const PhaseRecord DistinctPhase{1.5F, 4, 3.5F, -4, 5.25F, 6, 7, 8, 9, 10, 1, 12, 13, 14, 15, 16, 17, 18, 19, 20, 21, 22, 23, 24, 25, 26, -0.125F};
 
 const std::pair<std::string, std::string> ChangesOfTheFormOnly[] = {
     {"@", ""}, {"\r\n", "\n"}, {"\r\n", "\r"}, {"\r\n", "  \r\n"}, {",", "\n"}, {",", "  ,   "}, {"12.5,", "12.5 "},
     {"12.5", "+.125E2"}, {"2000", "\"2.e+3\" dropped \"this"}, {",0", ",-0"}, {"\"Record Phase: \"", " any words "},
-    {"\"Recorded phases\"", "\"a,\r\nb\""}, {".*,\"\"", "\xEF\xBB\xBFit, "}, {": \",2", "\",-8 "}, {"1200\r\n", "1200"},
+    {"\"Recorded phases\"", "\"a,\r\nb\""}, {".*,\"\"", "\xEF\xBB\xBFit, "}, {": \",2\r\n", "\",-8 "}, {"1200\r\n", "1200"},
     {"0\r\n300\r\n", "0,300\r"}, {"1200\r\n", "1200 \"more,\n\n" + std::string(1 << 17, 'x')}};
 
 // A header, whether it reads, and what it leaves of "old", 7 and 9.
@@ -54,24 +51,16 @@ const std::tuple<std::string, std::optional<Single>, std::optional<Integer>> Num
     {"1" + Zeros + "E-400", 1, 1}, {"1E99999999999999999999", No, No}, {"0E99999", 0, 0}, {"10E9223372036854775807", No, No},
     {"0.01E-9223372036854775808", 0, 0}, {"", 0, 0}, {".", 0, 0}, {"-", 0, 0}, {"1E", 0, 0}, {"+-1", 0, 0}, {"1.2.3", 0, 0},
     {"12abc", 0, 0}, {"1D1", 0, 0}, {"0x1A", 0, 0}, {"nan", 0, 0}, {"inf", 0, 0}, {"\t7", 0, 0}, {"7\0"s, 0, 0}, {"\" 7\"", 0, 0}};
-// clang-format on
 
 struct RecordFileTest : testing::Test, EditorState {
-    bool Read(const std::string& bytes) {
-        std::stringbuf source(bytes);
-        return ReadRecord(source, *this);
-    }
-    std::string Written() const {
-        std::stringbuf target;
-        return WriteRecord(target, *this) ? target.str() : "failed";
-    }
+    bool Read(const std::string& bytes) { std::stringbuf source(bytes); return ReadRecord(source, *this); }
+    std::string Written() const { std::stringbuf target; return WriteRecord(target, *this) ? target.str() : "failed"; }
 };
 
 TEST_F(RecordFileTest, EveryFieldHasItsPlaceAndOnlyTypesWithFlowsHaveFlowLines) {
     LoadedFlows[2][1] = 77;
     ASSERT_TRUE(Read(Distinct));
-    EXPECT_TRUE(LoadedPhases[1] == DistinctPhase && LoadedPhases[2].burstCount == 3);
-    EXPECT_TRUE(LoadedFlows[1][1] == 1200.5F && StratFile == "C" && RecordScale == -7);
+    EXPECT_TRUE(LoadedPhases[1] == DistinctPhase && LoadedPhases[2].burstCount == 3 && LoadedFlows[1][1] == 1200.5F && RecordScale == -7);
     EXPECT_EQ(Written(), Distinct);
     EXPECT_THROW(LoadedFlows[-1], std::out_of_range);
 }
@@ -92,16 +81,19 @@ TEST_F(RecordFileTest, AHeaderIsKeptAsFarAsItWasRead) {
         EXPECT_EQ(Read(bytes), read) << bytes.substr(0, 30);
         EXPECT_TRUE(StratFile == strat && LoadedPhaseCount == count && RecordScale == scale);
     }
+    StratFile = Longest, LoadedPhaseCount = 0;
+    EXPECT_TRUE(WriteRecordFile("/dev/null", *this) && (StratFile += 'x', !WriteRecordFile("/dev/null", *this)));
 }
 
 TEST_F(RecordFileTest, ItemsBecomeNumbersOrFailTheRead) {
     const std::string rest = Replaced(std::string(25, '0'), "0", ",0");
     for (const auto& [item, single, integer] : Numbers) {
         LoadedPhases[1] = {77, 77};
-        EXPECT_EQ(Read("a,b,c,1,20,,P,1\n" + item + ',' + item + rest), single && integer) << item;
+        EXPECT_EQ(Read("a,b,c,1,20,,P,1\n" + item + ',' + item + rest), single && integer);
         EXPECT_EQ(std::tie(LoadedPhases[1].ventLocation, LoadedPhases[1].eruptionType),
-                  std::tuple(single.value_or(77.F), single ? integer.value_or(77) : 77));
+                  std::tuple(single.value_or(77.F), single ? integer.value_or(77) : 77)) << item;
     }
 }
+// clang-format on
 
 }  // namespace
