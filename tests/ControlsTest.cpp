@@ -20,7 +20,7 @@ TEST(Controls, RaiseEventsInsideTheCallBehindStoringAndTellingTheObserver) {
     for (auto [event, name] : {
         std::pair(&box.Change, "Change"), {&box.KeyPress, "Key"}, {&box.GotFocus, "Focus"}, {&box.MouseMove, "Mouse"},
         {&check.Click, "Check"}, {&list.Click, "Pick"}, {&form.optLarge.Click, "Large"}, {&form.optSmall.Click, "Small"},
-        {&form.cmdHelp.Click, "Press"}}) { *event = [&log, name] { log += name; }; }
+        {&form.cmdHelp.Click, "Press"}}) { *event = [&log, name = name] { log += name; }; }
     const auto expect = [&log](const auto& acts, const std::string& happened) {
         log.clear(), acts();
         EXPECT_EQ(log, happened);

@@ -1,5 +1,6 @@
 #include "window/FileChooser.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -44,9 +45,9 @@ void FileChooser::SetUp(QFileDialog& asking, const CommonDialog& dialog) {
 
 void FileChooser::Offer(QFileDialog& asking, const CommonDialog& dialog) const {
     const QString folder = lastFolder.isEmpty() ? PathOf(dialog.InitDir) : lastFolder;
-    if (!folder.isEmpty() && QFileInfo(folder).isDir()) {
-        asking.setDirectory(folder);
-    }
+    // Left to itself, the toolkit begins where any program of this user ended another day.
+    asking.setDirectory(!folder.isEmpty() && QFileInfo(folder).isDir() ? folder
+                                                                       : QDir::currentPath());
     const QFileInfo offered(PathOf(dialog.FileName));
     if (offered.isAbsolute() && offered.dir().exists()) {
         asking.setDirectory(offered.dir());

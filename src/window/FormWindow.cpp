@@ -8,8 +8,10 @@
 #include <cmath>
 #include <utility>
 
+#include "window/Access.h"
 #include "window/Pictures.h"
 #include "window/ScreenText.h"
+#include "window/Shortcuts.h"
 
 namespace {
 
@@ -43,6 +45,7 @@ FormWindow::FormWindow(RecordEdit& ownForm) : form(ownForm) {
                    Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
     setWindowTitle(ToScreen(FormCaption));
 
+    DescribeWidgets();
     MakePictures();
     scale = FittingScale(pictures);
     setFixedSize(Pixels(FormWidth), Pixels(FormHeight));
@@ -50,6 +53,7 @@ FormWindow::FormWindow(RecordEdit& ownForm) : form(ownForm) {
     StackPictures();
     ChainTabs();
     NamePictures();
+    AddShortcuts(*this, form, mirror);
 
     form.Observer = [this](Control& control) {
         if (const auto found = byControl.find(&control); found != byControl.end()) {
@@ -108,7 +112,7 @@ void FormWindow::NamePictures() {
         }
     }
     for (const NamedText& row : SpokenNames()) {
-        Find(row.control)->Widget().setAccessibleName(ToScreen(row.text));
+        NameAloud(Find(row.control)->Widget(), ToScreen(row.text));
     }
 }
 

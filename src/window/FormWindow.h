@@ -16,6 +16,8 @@
 QIcon FormIcon();
 
 class FormWindow : public QWidget, public Window {
+    Q_OBJECT
+
 public:
     /// The form has to outlive the window, which becomes its observer.
     explicit FormWindow(RecordEdit& ownForm);

@@ -16,7 +16,6 @@ std::unique_ptr<QTextBrowser> NewViewer() {
     viewer->setWindowTitle("TephrexEdit Help");
     viewer->setAttribute(Qt::WA_QuitOnClose, false);  // the program ends with the form
     viewer->setOpenLinks(false);
-    viewer->document()->setDocumentMargin(12);
     viewer->resize(640, 700);
     QObject::connect(new QShortcut(Qt::Key_Escape, viewer.get()), &QShortcut::activated,
                      viewer.get(), &QWidget::close);
@@ -40,22 +39,22 @@ void SpaceTables(QTextDocument& document) {
     }
 }
 
-// With the topic, or with a sentence that tells why there is none.
-void Fill(QTextBrowser& viewer, const CommonDialog& dialog) {
+// Fills an empty document with the topic, or with a sentence that tells why there is none.
+void Fill(QTextDocument& document, const CommonDialog& dialog) {
     QFile file(FileName(dialog));
     if (!file.open(QIODevice::ReadOnly)) {
-        viewer.setPlainText("The help file cannot be read: " + file.fileName());
+        document.setPlainText("The help file cannot be read: " + file.fileName());
         return;
     }
     const int number = dialog.HelpContext;
     const QString topic = FindTopic(QString::fromUtf8(file.readAll()), number);
     if (topic.isNull()) {
-        viewer.setPlainText(QString("The help file has no topic %1: ").arg(number) +
-                            file.fileName());
+        document.setPlainText(QString("The help file has no topic %1: ").arg(number) +
+                              file.fileName());
         return;
     }
-    viewer.document()->setMarkdown(topic, QTextDocument::MarkdownDialectGitHub);
-    SpaceTables(*viewer.document());
+    document.setMarkdown(topic, QTextDocument::MarkdownDialectGitHub);
+    SpaceTables(document);
 }
 
 }  // namespace
@@ -84,8 +83,11 @@ void HelpWindow::ShowTopic(const CommonDialog& dialog) {
     if (viewer == nullptr) {
         viewer = NewViewer();
     }
-    Fill(*viewer, dialog);
-    viewer->moveCursor(QTextCursor::Start);
+    // A document that is not on show yet is filled much faster; the viewer deletes the last one.
+    auto* const document = new QTextDocument(viewer.get());
+    document->setDocumentMargin(12);
+    Fill(*document, dialog);
+    viewer->setDocument(document);
     viewer->show();
     viewer->raise();
     viewer->activateWindow();

@@ -25,6 +25,8 @@ ListBox::ListBox(QWidget* parent) : QComboBox(parent), entries(new QStringListMo
     setFocusPolicy(Qt::StrongFocus);
     setModel(entries);
     connect(this, &QComboBox::activated, this, &ListBox::PickIfJustClosed);
+    connect(view()->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &ListBox::PickIfSelectedFromAfar, Qt::QueuedConnection);
 }
 
 void ListBox::SetEntries(const QStringList& shown) {
@@ -68,6 +70,17 @@ void ListBox::hidePopup() {
 void ListBox::PickIfJustClosed(int position) {
     if (std::exchange(justClosed, false)) {
         emit Picked(position);
+    }
+}
+
+// Mouse and keys move the highlight of the open list and with it the selection. A helping
+// technology selects an entry where the highlight is not, and that is its choice.
+void ListBox::PickIfSelectedFromAfar() {
+    const QModelIndex selected = view()->selectionModel()->selectedIndexes().value(0);
+    if (view()->isVisible() && selected.isValid() && selected != view()->currentIndex()) {
+        hidePopup();
+        justClosed = false;
+        emit Picked(selected.row());
     }
 }
 

@@ -32,6 +32,7 @@ protected:
 
 private:
     void PickIfJustClosed(int position);
+    void PickIfSelectedFromAfar();
 
     QStringListModel* entries;
     bool justClosed = false;  // the list, and no key or loss of focus has come since

@@ -31,3 +31,17 @@ bool Picture::eventFilter(QObject* watched, QEvent* event) {
     }
     return QObject::eventFilter(watched, event);
 }
+
+QPalette PalePalette(QPalette palette, QColor back) {
+    constexpr QColor greyed(112, 112, 112);
+    for (const auto role : {QPalette::Window, QPalette::Base}) {
+        palette.setColor(role, back);
+    }
+    for (const auto role : {QPalette::WindowText, QPalette::Text}) {
+        palette.setColor(role, Qt::black);
+        palette.setColor(QPalette::Disabled, role, greyed);
+    }
+    palette.setColor(QPalette::Highlight, QColor(0, 84, 147));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    return palette;
+}

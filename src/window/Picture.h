@@ -3,7 +3,9 @@
 // stand in Pictures.
 #pragma once
 
+#include <QColor>
 #include <QObject>
+#include <QPalette>
 #include <QSize>
 #include <QWidget>
 
@@ -55,3 +57,24 @@ private:
     QWidget& widget;
     Mirror& mirror;
 };
+
+/// A picture that knows the kinds of its control and of its widget.
+template <class ControlKind, class WidgetKind>
+class PictureOf : public Picture {
+public:
+    explicit PictureOf(const Subject& subject)
+        : PictureOf(subject, *new WidgetKind(subject.parent)) {}
+
+protected:
+    ControlKind& control;
+    WidgetKind& widget;
+
+private:
+    PictureOf(const Subject& subject, WidgetKind& ownWidget)
+        : Picture(subject, ownWidget),
+          control(dynamic_cast<ControlKind&>(subject.control)),
+          widget(ownWidget) {}
+};
+
+/// The palette with a pale back, and dark text on it: the back is as pale on a dark desktop.
+QPalette PalePalette(QPalette palette, QColor back);

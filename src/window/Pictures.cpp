@@ -1,53 +1,19 @@
 #include "window/Pictures.h"
 
-#include <QAbstractItemView>
 #include <QCheckBox>
-#include <QCursor>
 #include <QGroupBox>
 #include <QIcon>
 #include <QLabel>
-#include <QPixmap>
 #include <QPushButton>
 #include <QRadioButton>
 
-#include "window/LineBox.h"
-#include "window/ListBox.h"
+#include "window/Access.h"
+#include "window/BoxPictures.h"
 #include "window/ScreenText.h"
 
 namespace {
 
 constexpr QColor PaleCyan(192, 255, 255);
-constexpr QColor PaleYellow(255, 255, 192);
-constexpr QColor Greyed(112, 112, 112);
-
-// The pale colours are the same on a dark desktop, so the text on them has to be dark.
-QPalette PalePalette(QPalette palette, QColor back) {
-    for (const auto role : {QPalette::Window, QPalette::Base}) {
-        palette.setColor(role, back);
-    }
-    for (const auto role : {QPalette::WindowText, QPalette::Text}) {
-        palette.setColor(role, Qt::black);
-        palette.setColor(QPalette::Disabled, role, Greyed);
-    }
-    return palette;
-}
-
-template <class ControlKind, class WidgetKind>
-class PictureOf : public Picture {
-public:
-    explicit PictureOf(const Subject& subject)
-        : PictureOf(subject, *new WidgetKind(subject.parent)) {}
-
-protected:
-    ControlKind& control;
-    WidgetKind& widget;
-
-private:
-    PictureOf(const Subject& subject, WidgetKind& ownWidget)
-        : Picture(subject, ownWidget),
-          control(dynamic_cast<ControlKind&>(subject.control)),
-          widget(ownWidget) {}
-};
 
 class FramePicture : public PictureOf<Frame, QGroupBox> {
 public:
@@ -82,11 +48,14 @@ public:
         const QString caption = ToScreen(control.Caption());
         if (IsOutputField()) {
             // Of a long path the end tells more than the beginning.
-            widget.setAccessibleName(caption);
+            NameAloud(widget, caption);
             widget.setText(widget.fontMetrics().elidedText(caption, Qt::ElideLeft,
                                                            widget.contentsRect().width()));
         } else {
             widget.setText(caption);
+        }
+        if (widget.buddy() != nullptr) {
+            NameAloud(*widget.buddy(), caption);
         }
         Picture::Update();
     }
@@ -98,106 +67,6 @@ public:
 
 private:
     bool IsOutputField() const { return Row().look == Look::OutputField; }
-};
-
-class TextBoxPicture : public PictureOf<TextBox, LineBox> {
-public:
-    explicit TextBoxPicture(const Subject& subject) : PictureOf(subject) {
-        widget.setAlignment(Qt::AlignCenter);
-        connect(&widget, &LineBox::KeyPressed, this, [this] { TakeText(&TextBox::PressKey); });
-        connect(&widget, &LineBox::Edited, this, [this] { TakeText(&TextBox::Edit); });
-        connect(&widget, &LineBox::SelectionMoved, this,
-                [this] { UserActs([this] { TakeSelection(); }); });
-    }
-
-    void Update() override {
-        if (!ShowsText()) {
-            widget.setText(ToScreen(control.Text()));
-        }
-        ShowSelection();
-        Picture::Update();
-    }
-
-    QSize SizeWith(const QString& text) override { return widget.SizeFor(text); }
-
-private:
-    using Door = void (TextBox::*)(std::string_view, std::size_t);
-
-    bool ShowsText() const { return widget.text() == ToScreen(control.Text()); }
-
-    // Text that the user has left alone keeps the bytes that the control has for it.
-    void TakeText(Door door) {
-        UserActs([this, door] {
-            const std::string text = ShowsText() ? control.Text() : FromScreen(widget.text());
-            (control.*door)(text, BytePlace(text, widget.cursorPosition()));
-            TakeSelection();
-        });
-    }
-
-    // Widgets forget their selection when the focus leaves them; controls don't.
-    void TakeSelection() {
-        if (!widget.hasFocus() || !ShowsText()) {
-            return;
-        }
-        const bool selected = widget.hasSelectedText();
-        const int start = selected ? widget.selectionStart() : widget.cursorPosition();
-        const int end = selected ? widget.selectionEnd() : start;
-        const std::size_t first = BytePlace(control.Text(), start);
-        control.Select(first, BytePlace(control.Text(), end) - first);
-    }
-
-    void ShowSelection() {
-        const std::string& text = control.Text();
-        const int start = ScreenPlace(text, control.SelStart());
-        const int end = ScreenPlace(text, control.SelStart() + control.SelLength());
-        if (widget.hasFocus() && end > start) {
-            if (widget.selectionStart() != start || widget.selectionEnd() != end) {
-                widget.setSelection(start, end - start);
-            }
-        } else if (widget.hasSelectedText() || widget.cursorPosition() != end) {
-            widget.deselect();
-            widget.setCursorPosition(end);
-        }
-    }
-};
-
-class ComboBoxPicture : public PictureOf<ComboBox, ListBox> {
-public:
-    explicit ComboBoxPicture(const Subject& subject) : PictureOf(subject) {
-        widget.setPalette(PalePalette(widget.palette(), PaleYellow));
-        widget.view()->setPalette(widget.palette());
-        if (Row().look == Look::OwnPointer) {
-            widget.setCursor(QCursor(QPixmap(":/window/down-32.xpm"), 12, 1));
-        }
-        connect(&widget, &ListBox::Picked, this, [this](int position) {
-            UserActs([this, position] { control.Pick(static_cast<std::size_t>(position)); });
-        });
-        connect(&widget, &QComboBox::editTextChanged, this,
-                [this] { UserActs([this] { TakeText(); }); });
-    }
-
-    void Update() override {
-        QStringList entries;
-        for (const std::string& entry : control.Entries()) {
-            entries += ToScreen(entry);
-        }
-        widget.SetEntries(entries);
-        if (!ShowsText()) {
-            widget.setEditText(ToScreen(control.Text()));
-        }
-        Picture::Update();
-    }
-
-    QSize SizeWith(const QString& text) override { return widget.SizeFor(text); }
-
-private:
-    bool ShowsText() const { return widget.currentText() == ToScreen(control.Text()); }
-
-    void TakeText() {
-        if (!ShowsText()) {
-            control.Type(FromScreen(widget.currentText()));
-        }
-    }
 };
 
 class CheckBoxPicture : public PictureOf<CheckBox, QCheckBox> {
@@ -214,7 +83,7 @@ public:
     void Update() override {
         const QString caption = ToScreen(control.Caption());
         widget.setText(Shown(caption));
-        widget.setAccessibleName(caption);
+        NameAloud(widget, caption);
         widget.setChecked(control.Value() == 1);
         Picture::Update();
     }
@@ -242,6 +111,7 @@ public:
 
     void Update() override {
         widget.setText(ToScreen(control.Caption()));
+        NameAloud(widget, widget.text());
         widget.setChecked(control.Value());
         Picture::Update();
     }

@@ -1,7 +1,6 @@
-#include <QTextBrowser>
+#include <QApplication>
 
-#include "WindowTest.h"
-#include "window/FileChooser.h"
+#include "../TestForm.h"
 #include "window/HelpWindow.h"
 #include "window/IniSettings.h"
 
@@ -17,36 +16,20 @@ TEST(IniSettingsTest, AValueArrivesByteForByte) {
     WriteBytes(qgetenv("XDG_CONFIG_HOME").toStdString() + "/Tephrex3.ini",
                "DataPath=/top\n[Else]\nDataPath=/else\n; c=d\n[Settings]\nDataPath=" + odd);
     EXPECT_EQ(read("DataPath"), odd);
-    EXPECT_EQ(read("Other"), "1");
-    EXPECT_EQ(read("Missing"), "none");
-}
-
-TEST(FileChooserTest, EachFilterNamesItsPatternsOnce) {
-    EXPECT_EQ(NameFilters("Recorder Files (*.rec)|*.rec;*.REC|Any|*|").join('|'),
-              "Recorder Files (*.rec *.REC)|Any (*)");
+    EXPECT_EQ(read("Other") + read("Missing"), "1none");
 }
 
 TEST(HelpWindowTest, ShowsTheTopicOrTellsThatThereIsNone) {
-    TempFolder folder;
-    WriteBytes(folder / "a.hlp", "94 ahead\n# 9 Nine\nnine\n# 94 Topic\ntext\n## 9 Part\nend\n");
-    HelpWindow help;
+    const QString help = "94 ahead\n# 9 Nine\nnine\n# 94 Topic\ntext\n## 9 Part\nend\n";
+    EXPECT_EQ(FindTopic(help, 94), "# Topic\ntext\n## 9 Part\nend\n");
+    EXPECT_TRUE(FindTopic(help, 4).isNull());
     Form form;
     CommonDialog dialog(form, "CD1");
-    const auto show = [&](int command, const std::string& file, int topic) {
-        dialog.HelpCommand = command;
-        dialog.HelpFile = file;
-        dialog.HelpContext = topic;
-        help.ShowHelp(dialog);
-        QTextBrowser* viewer = nullptr;
-        for (QWidget* widget : QApplication::topLevelWidgets()) {
-            viewer = viewer != nullptr ? viewer : qobject_cast<QTextBrowser*>(widget);
-        }
-        return viewer != nullptr && viewer->isVisible() ? viewer->toPlainText() : QString();
-    };
-    EXPECT_EQ(show(CommonDialog::Quit, "", 94), "");
-    EXPECT_EQ(show(CommonDialog::ShowTopic, (folder / "") + "\\a.hlp", 94),
-              "Topic\ntext\n9 Part\nend");
-    EXPECT_TRUE(show(CommonDialog::ShowTopic, folder / "a.hlp", 4).contains("no topic 4"));
-    EXPECT_TRUE(show(CommonDialog::ShowTopic, folder / "no.hlp", 94).contains("cannot be read"));
-    EXPECT_EQ(show(CommonDialog::Quit, "", 94), "");
+    HelpWindow viewer;
+    dialog.HelpFile = "/no\\where.hlp";
+    dialog.HelpCommand = CommonDialog::ShowTopic;
+    viewer.ShowHelp(dialog);
+    auto* const shown = qobject_cast<QTextBrowser*>(QApplication::topLevelWidgets().value(0));
+    ASSERT_TRUE(shown && shown->isVisible());
+    EXPECT_EQ(shown->toPlainText(), "The help file cannot be read: /no/where.hlp");
 }

@@ -1,13 +1,13 @@
 // A form that is on the screen. Tests act on its widgets as a user does.
 #pragma once
 
-#include <QApplication>
-#include <QComboBox>
-#include <QLineEdit>
 #include <QTest>
+#include <QtWidgets>
 
 #include "../TestForm.h"
 #include "window/FormWindow.h"
+
+using QTest::keyClick, QTest::mouseClick;
 
 class WindowTest : public FormTest {
 protected:
@@ -15,6 +15,7 @@ protected:
 
     void SetUp() override {
         Load();
+        Open({GoodPhase(EruptionType::Strombolian)});
         window.Show();
         window.activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
@@ -23,14 +24,5 @@ protected:
     template <class WidgetKind = QWidget>
     WidgetKind* Find(const char* name) {
         return window.findChild<WidgetKind*>(name);
-    }
-
-    void OpenPhase(Integer eruptionType) {
-        Open({GoodPhase(eruptionType)});
-        window.RunPendingEvents();
-    }
-
-    static void Press(QWidget* widget, Qt::Key key, Qt::KeyboardModifiers with = {}) {
-        QTest::keyClick(widget, key, with);
     }
 };

@@ -1,14 +1,12 @@
-// Runs the tests of the window with an application, and with settings files of their own.
+// Runs the tests of the window without a screen, and with settings files of their own.
 #include <gtest/gtest.h>
 
 #include <QApplication>
 #include <QTemporaryDir>
 
 int main(int argc, char** argv) {
-    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
     const QTemporaryDir settings;
+    qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
     qputenv("XDG_CONFIG_DIRS", settings.filePath("system").toLocal8Bit());
     const QApplication application(argc, argv);

@@ -1,0 +1,40 @@
+#!/usr/bin/env bash
+# pictures.sh PROGRAM: makes the pictures of the README anew, from the running program with the
+# demonstration record.
+. "$(dirname "$0")/lib.sh"
+
+install_missing "${screen_packages[@]}"
+. scripts/screen.sh
+
+# shot NAME WINDOW: the window alone, in few colours.
+shot() {
+    sleep 0.3
+    import -frame -window "$2" -depth 8 +dither -colors 64 "PNG8:docs/$1.png"
+    echo "docs/$1.png"
+}
+
+# show_phase NUMBER: from the first phase on show.
+show_phase() {
+    xdotool key --delay 60 --repeat "$1" ctrl+Next
+    sleep 0.2
+}
+
+records=/tmp/records # the path on show is to be the same on every machine
+mkdir -p docs "$records"
+cp data/TephrexDemo.rec "$records"
+start_editor "$1" "$records/"
+press Open
+answer_dialog "Open Record File" "$records/TephrexDemo.rec"
+rm "$records/TephrexDemo.rec"
+rmdir --ignore-fail-on-non-empty "$records"
+show_phase 6
+shot eruption "$form"
+keys ctrl+Prior ctrl+Prior ctrl+Prior ctrl+Prior
+shot flows "$form"
+fill Loc 99
+press Save
+await "^TephrexEdit$"
+shot message "$(window_named "^TephrexEdit$" | tail -n 1)"
+keys Return
+await_gone "^TephrexEdit$"
+close_editor

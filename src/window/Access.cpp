@@ -1,0 +1,120 @@
+#include "window/Access.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAccessibleWidget>
+#include <QLineEdit>
+
+#include "window/FormWindow.h"
+#include "window/ListBox.h"
+
+namespace {
+
+// The toolkit would give the text of the box for the name of the list.
+class ListBoxAccess : public QAccessibleWidget {
+public:
+    explicit ListBoxAccess(ListBox& ownList)
+        : QAccessibleWidget(&ownList, QAccessible::ComboBox), list(ownList) {}
+
+    int childCount() const override { return 2; }
+
+    QAccessibleInterface* child(int index) const override {
+        if (index == 0) {
+            return QAccessible::queryAccessibleInterface(list.view());
+        }
+        return index == 1 ? QAccessible::queryAccessibleInterface(list.lineEdit()) : nullptr;
+    }
+
+    int indexOfChild(const QAccessibleInterface* part) const override {
+        return part->object() == list.view() ? 0 : part->object() == list.lineEdit() ? 1 : -1;
+    }
+
+    QString text(QAccessible::Text kind) const override {
+        return kind == QAccessible::Value ? list.currentText() : QAccessibleWidget::text(kind);
+    }
+
+    QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.editable = state.hasPopup = state.expandable = true;
+        state.expanded = list.view()->isVisible();
+        state.collapsed = !state.expanded;
+        return state;
+    }
+
+    QStringList actionNames() const override {
+        return QStringList(showMenuAction()) + QAccessibleWidget::actionNames();
+    }
+
+    void doAction(const QString& name) override {
+        if (name != showMenuAction()) {
+            QAccessibleWidget::doAction(name);
+        } else if (list.view()->isVisible()) {
+            list.hidePopup();
+        } else if (list.isEnabled()) {
+            list.showPopup();
+        }
+    }
+
+private:
+    ListBox& list;
+};
+
+// An option that the Tab key reaches also while another one of its group is selected counts as a
+// check box with the toolkit.
+class OptionAccess : public QAccessibleWidget {
+public:
+    explicit OptionAccess(QAbstractButton& ownOption)
+        : QAccessibleWidget(&ownOption, QAccessible::RadioButton), option(ownOption) {}
+
+    QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.checkable = true;
+        state.checked = option.isChecked();
+        return state;
+    }
+
+    QStringList actionNames() const override {
+        return QStringList(toggleAction()) + QAccessibleWidget::actionNames();
+    }
+
+    void doAction(const QString& name) override {
+        if (name == toggleAction()) {
+            option.click();
+        } else {
+            QAccessibleWidget::doAction(name);
+        }
+    }
+
+private:
+    QAbstractButton& option;
+};
+
+QAccessibleInterface* NewAccess(const QString& kind, QObject* object) {
+    if (kind == "ListBox") {
+        return new ListBoxAccess(*qobject_cast<ListBox*>(object));
+    }
+    if (kind == "QRadioButton") {
+        return new OptionAccess(*qobject_cast<QAbstractButton*>(object));
+    }
+    if (kind == "FormWindow") {
+        return new QAccessibleWidget(qobject_cast<QWidget*>(object), QAccessible::Window);
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+void DescribeWidgets() { QAccessible::installFactory(NewAccess); }
+
+void NameAloud(QWidget& widget, QString caption) {
+    while (caption.endsWith(':') || caption.endsWith(' ')) {
+        caption.chop(1);
+    }
+    if (widget.accessibleName() == caption) {
+        return;
+    }
+    widget.setAccessibleName(caption);
+    if (auto* const list = qobject_cast<ListBox*>(&widget)) {
+        list->lineEdit()->setAccessibleName(caption);
+    }
+}

@@ -1,0 +1,100 @@
+#include "window/BoxPictures.h"
+
+#include <QAbstractItemView>
+#include <QCursor>
+#include <QPixmap>
+
+#include "window/ScreenText.h"
+
+namespace {
+
+constexpr QColor PaleYellow(255, 255, 192);
+
+}  // namespace
+
+TextBoxPicture::TextBoxPicture(const Subject& subject) : PictureOf(subject) {
+    widget.setAlignment(Qt::AlignCenter);
+    connect(&widget, &LineBox::KeyPressed, this, [this] { TakeText(&TextBox::PressKey); });
+    connect(&widget, &LineBox::Edited, this, [this] { TakeText(&TextBox::Edit); });
+    connect(&widget, &LineBox::SelectionMoved, this,
+            [this] { UserActs([this] { TakeSelection(); }); });
+}
+
+void TextBoxPicture::Update() {
+    if (!ShowsText()) {
+        widget.setText(ToScreen(control.Text()));
+    }
+    ShowSelection();
+    Picture::Update();
+}
+
+bool TextBoxPicture::ShowsText() const { return widget.text() == ToScreen(control.Text()); }
+
+// Text that the user has left alone keeps the bytes that the control has for it.
+void TextBoxPicture::TakeText(Door door) {
+    UserActs([this, door] {
+        const std::string text = ShowsText() ? control.Text() : FromScreen(widget.text());
+        (control.*door)(text, BytePlace(text, widget.cursorPosition()));
+        TakeSelection();
+    });
+}
+
+// A widget forgets its selection when the focus leaves it; a control does not.
+void TextBoxPicture::TakeSelection() {
+    if (!widget.hasFocus() || !ShowsText()) {
+        return;
+    }
+    const bool selected = widget.hasSelectedText();
+    const int start = selected ? widget.selectionStart() : widget.cursorPosition();
+    const int end = selected ? widget.selectionEnd() : start;
+    const std::size_t first = BytePlace(control.Text(), start);
+    control.Select(first, BytePlace(control.Text(), end) - first);
+}
+
+void TextBoxPicture::ShowSelection() {
+    const std::string& text = control.Text();
+    const int start = ScreenPlace(text, control.SelStart());
+    const int end = ScreenPlace(text, control.SelStart() + control.SelLength());
+    if (widget.hasFocus() && end > start) {
+        if (widget.selectionStart() != start || widget.selectionEnd() != end) {
+            widget.setSelection(start, end - start);
+        }
+    } else if (widget.hasSelectedText() || widget.cursorPosition() != end) {
+        widget.deselect();
+        widget.setCursorPosition(end);
+    }
+}
+
+ComboBoxPicture::ComboBoxPicture(const Subject& subject) : PictureOf(subject) {
+    widget.setPalette(PalePalette(widget.palette(), PaleYellow));
+    widget.view()->setPalette(widget.palette());
+    if (Row().look == Look::OwnPointer) {
+        widget.setCursor(QCursor(QPixmap(":/window/down-32.xpm"), 12, 1));
+    }
+    connect(&widget, &ListBox::Picked, this, &ComboBoxPicture::TakePick);
+    connect(&widget, &QComboBox::editTextChanged, this, &ComboBoxPicture::TakeText);
+}
+
+void ComboBoxPicture::Update() {
+    QStringList entries;
+    for (const std::string& entry : control.Entries()) {
+        entries += ToScreen(entry);
+    }
+    widget.SetEntries(entries);
+    if (!ShowsText()) {
+        widget.setEditText(ToScreen(control.Text()));
+    }
+    Picture::Update();
+}
+
+bool ComboBoxPicture::ShowsText() const { return widget.currentText() == ToScreen(control.Text()); }
+
+void ComboBoxPicture::TakeText() {
+    if (!ShowsText()) {
+        UserActs([this] { control.Type(FromScreen(widget.currentText())); });
+    }
+}
+
+void ComboBoxPicture::TakePick(int position) {
+    UserActs([this, position] { control.Pick(static_cast<std::size_t>(position)); });
+}

@@ -1,0 +1,36 @@
+// The pictures of the two kinds of control that hold a text of the user's: the text box and the
+// combo box.
+#pragma once
+
+#include "window/LineBox.h"
+#include "window/ListBox.h"
+#include "window/Picture.h"
+
+class TextBoxPicture : public PictureOf<TextBox, LineBox> {
+public:
+    explicit TextBoxPicture(const Subject& subject);
+
+    void Update() override;
+    QSize SizeWith(const QString& text) override { return widget.SizeFor(text); }
+
+private:
+    using Door = void (TextBox::*)(std::string_view, std::size_t);
+
+    bool ShowsText() const;
+    void TakeText(Door door);
+    void TakeSelection();
+    void ShowSelection();
+};
+
+class ComboBoxPicture : public PictureOf<ComboBox, ListBox> {
+public:
+    explicit ComboBoxPicture(const Subject& subject);
+
+    void Update() override;
+    QSize SizeWith(const QString& text) override { return widget.SizeFor(text); }
+
+private:
+    bool ShowsText() const;
+    void TakeText();
+    void TakePick(int position);
+};

@@ -1,0 +1,42 @@
+#include "window/Shortcuts.h"
+
+#include <QKeySequence>
+#include <QShortcut>
+#include <QWidget>
+#include <functional>
+
+#include "form/RecordEdit.h"
+#include "window/Mirror.h"
+
+namespace {
+
+// A position outside the list, as at its ends, picks nothing.
+void PickPhase(RecordEdit& form, int number) {
+    form.cmbPhase.Pick(static_cast<std::size_t>(number - 1));
+}
+
+}  // namespace
+
+void AddShortcuts(QWidget& window, RecordEdit& form, Mirror& mirror) {
+    struct Row {
+        QKeyCombination key;
+        std::function<void()> act;
+        bool repeats = false;
+    };
+    const Row rows[]{
+        {Qt::CTRL | Qt::Key_O, [&form] { form.cmdOpen.Press(); }},
+        {Qt::CTRL | Qt::Key_S, [&form] { form.Command2.Press(); }},
+        {Qt::Key_F1, [&form] { form.cmdHelp.Press(); }},
+        {Qt::CTRL | Qt::Key_W, [&window] { window.close(); }},
+        {Qt::CTRL | Qt::Key_PageUp, [&form] { PickPhase(form, form.CurPhase - 1); }, true},
+        {Qt::CTRL | Qt::Key_PageDown, [&form] { PickPhase(form, form.CurPhase + 1); }, true},
+    };
+    for (const Row& row : rows) {
+        auto* const shortcut = new QShortcut(QKeySequence(row.key), &window);
+        shortcut->setAutoRepeat(row.repeats);
+        QObject::connect(shortcut, &QShortcut::activated, &window, [&mirror, act = row.act] {
+            const Mirror::Act deed(mirror);
+            act();
+        });
+    }
+}

@@ -1,0 +1,79 @@
+"""Works the running editor, with the demonstration record open, over the accessibility bus."""
+import subprocess
+import time
+
+import pyatspi
+from gi.repository import GLib
+
+FOCUSABLE = {
+    "combo box": "Record phase to edit|Caldera style|Eruption Type|Side thrown down|Lava flow",
+    "check box": "Caldera|Directed|Explosive bursts",
+    "radio button": "Large|Normal|Small",
+    "push button": "Delete|Add|Stratigraphic File|Close|Save|Reset|Open|Help",
+    "text": "Fault magnitude|Vent location|Strength|Wind|Mass Flux|Number of bursts|Scarp top|"
+            "Scarp base|Fault dip|Erosion duration|Flow duration|Straticgraphic File|Flow length|"
+            "3D Position|Growth|Crater Size|Vent Position|Speed|Mid Radius|Deposit Angle|"
+            "Left Angle|Right Angle",
+}
+
+
+def soon(wanted, get):
+    for _ in range(200):
+        GLib.MainContext.default().iteration(False)
+        if get() == wanted:
+            return
+        time.sleep(0.05)
+    raise AssertionError(f"{get()!r} and not {wanted!r}")
+
+
+def own_focus(node):
+    return (node.getState().contains(pyatspi.STATE_FOCUSABLE)
+            and node.parent.getRoleName() not in ("combo box", "list"))
+
+
+def states(state, *names):
+    return [found[name].getState().contains(state) for name in names]
+
+
+def text(control):
+    box = control[1] if control.getRoleName() == "combo box" else control
+    return box.queryText().getText(0, -1)
+
+
+def act(control, name):
+    actions = control.queryAction()
+    actions.doAction([actions.getName(i) for i in range(actions.nActions)].index(name))
+
+
+def choose_type(entry):
+    kind = found["Eruption Type"]
+    act(kind, "ShowMenu")
+    act(next(each for each in kind[0] if each.name == entry), "Toggle")
+    soon(entry, lambda: text(kind))
+
+
+heard = []
+pyatspi.Registry.registerEventListener(
+    lambda event: heard.append((event.source.getRoleName(), event.source.name)),
+    "object:property-change")
+soon(1, lambda: len(list(pyatspi.Registry.getDesktop(0))))
+found = {each.name: each
+         for each in pyatspi.findAllDescendants(pyatspi.Registry.getDesktop(0)[0], own_focus)}
+soon({name: role for role, names in FOCUSABLE.items() for name in names.split("|")},
+     lambda: {name: each.getRoleName() for name, each in found.items()})
+strength = found["Strength"]
+soon("Edit the eruption strength", lambda: strength.description)
+soon(["8.50", "Faulting"], lambda: [text(found[name]) for name in ("Vent location", "Eruption Type")])
+soon([True, False, False], lambda: states(pyatspi.STATE_CHECKED, "Normal", "Small", "Caldera"))
+soon([False, False], lambda: states(pyatspi.STATE_ENABLED, "Strength", "Save"))
+
+choose_type("Plinian")
+soon([True, True], lambda: states(pyatspi.STATE_ENABLED, "Strength", "Save"))
+act(found["Caldera"], "Toggle")
+soon([True], lambda: states(pyatspi.STATE_CHECKED, "Caldera"))
+act(strength, "SetFocus")
+soon([True], lambda: states(pyatspi.STATE_FOCUSED, "Strength"))
+subprocess.run(["xdotool", "type", "--delay", "20", "1.25"], check=True)
+soon("1.25", lambda: text(strength))
+choose_type("Fumarolic/Phreatic")
+soon(True, lambda: ("text", "Burst Frequency") in heard)

@@ -1,0 +1,17 @@
+#!/usr/bin/env bash
+# spoken.sh PROGRAM: the editor as those hear it who do not see it. A reader of the screen of our own
+# works the running program on a private bus.
+. "$(dirname "$0")/../scripts/lib.sh"
+
+install_missing at-spi2-core dbus-daemon python3-pyatspi
+if [ -z "${TEPHREX_PRIVATE_BUS-}" ]; then
+    exec env TEPHREX_PRIVATE_BUS=1 dbus-run-session -- tests/spoken.sh "$@"
+fi
+. scripts/screen.sh
+
+export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
+start_editor "$1" "$PWD/data/"
+press Open
+answer_dialog "Open Record File" "$PWD/data/TephrexDemo.rec"
+/usr/bin/python3 tests/spoken.py || fail "not all is heard"
+close_editor

@@ -1,0 +1,110 @@
+#include "WindowTest.h"
+#include "window/FileChooser.h"
+
+TEST_F(WindowTest, KeysOfTheFormDoWhatIsEnabledAndPressNoKeyInABox) {
+    Open({GoodPhase(EruptionType::Strombolian), GoodPhase(EruptionType::Plinian)});
+    struct Row {
+        QKeyCombination key;
+        Control& control;
+        Event& event;
+        int times = 1;
+    };
+    const Row rows[]{
+        {Qt::CTRL | Qt::Key_O, form.cmdOpen, form.cmdOpen.Click},
+        {Qt::CTRL | Qt::Key_S, form.Command2, form.Command2.Click},
+        {Qt::Key_F1, form.cmdHelp, form.cmdHelp.Click},
+        {Qt::CTRL | Qt::Key_PageUp, form.cmbPhase, form.cmbPhase.Click, 0},
+        {Qt::CTRL | Qt::Key_PageDown, form.cmbPhase, form.cmbPhase.Click},
+        {Qt::CTRL | Qt::Key_W, form.labLoc, form.Unload},
+    };
+    for (const Row& row : rows) {
+        int times = 0;
+        row.event = [&times] { ++times; };
+        for (const bool enabled : {true, false}) {
+            form.Command2.SetEnabled(false);
+            row.control.SetEnabled(enabled);
+            keyClick(Find("txtLoc"), row.key.key(), row.key.keyboardModifiers());
+        }
+        EXPECT_EQ(times, row.times) << "row " << &row - rows;
+        EXPECT_FALSE(form.Command2.Enabled());
+        row.control.SetEnabled(true);
+    }
+}
+
+double Brightness(const QColor& color) {
+    return 0.2126 * std::pow(color.redF(), 2.2) + 0.7152 * std::pow(color.greenF(), 2.2) +
+           0.0722 * std::pow(color.blueF(), 2.2) + 0.05;
+}
+
+TEST_F(WindowTest, ColouredFieldsAreReadableInLightAndDark) {
+    for (const int grey : {35, 239}) {
+        QApplication::setPalette(QPalette(QColor(grey, grey, grey)));
+        FormWindow themed(form);
+        QWidgetList fields{themed.findChild<QWidget*>("labPhases")};
+        for (auto* const list : themed.findChildren<QComboBox*>()) {
+            fields << list->lineEdit() << list->view();
+        }
+        for (const QWidget* field : fields) {
+            const auto expect = [&colors = field->palette()](auto text, auto back) {
+                const double one = Brightness(colors.color(QPalette::Active, text));
+                const double other = Brightness(colors.color(QPalette::Active, back));
+                EXPECT_GE(std::max(one / other, other / one), 4.5) << text;
+            };
+            expect(QPalette::Text, QPalette::Base);
+            expect(QPalette::WindowText, QPalette::Window);
+            expect(QPalette::HighlightedText, QPalette::Highlight);
+        }
+    }
+}
+
+TEST_F(WindowTest, ARecordIsTheSameInEveryLocale) {
+    std::vector<std::string> saved;
+    for (const auto& [point, group] :
+         {Separators{".", ","}, Separators{",", "."}, Separators{"\u066B", "\u202F"}}) {
+        form.separators = {point, group};
+        platform.answers = {TEPHREX_DATA "/TephrexDemo.rec", folder / "saved.rec"};
+        Find<QAbstractButton>("cmdOpen")->click();
+        keyClick(&window, Qt::Key_PageDown, Qt::ControlModifier);
+        EXPECT_EQ(Find<QLineEdit>("txtLoc")->text().toStdString(), "12" + point + "25");
+        form.txtLoc.PressKey("1" + group + "2" + point + "75");
+        form.Command2.Press();
+        saved.push_back(ReadBytes(folder / "saved.rec"));
+        EXPECT_EQ(saved.back(), saved.front());
+    }
+    EXPECT_NE(saved[0].find("\n12.75,2,0.2,"), std::string::npos);
+}
+
+TEST_F(WindowTest, ANameGetsItsExtensionAndNoFileIsReplacedUnasked) {
+    const std::string deep = folder / (std::string(150, 'a') + "/" + std::string(150, 'b') + "/");
+    std::filesystem::create_directories(deep);
+    WriteBytes(folder / "there.rec", "");
+    FileChooser chooser(window);
+    form.CD1.FileName = "";
+    form.CD1.DefaultExt = "rec";
+    form.CD1.Flags = CommonDialog::AskBeforeReplacing;
+    const std::pair<std::string, std::string> rows[]{
+        {folder / "a.txt", folder / "a.txt"},
+        {folder / "there", folder / "there.rec"},
+        {deep + "a name é", deep + "a name é.rec"},
+        {"next", deep + "next.rec"},  // where the user last was
+    };
+    for (const auto& [typed, saved] : rows) {
+        bool asked = false;
+        QTimer::singleShot(0, &window, [&, name = typed] {
+            auto* const box = QApplication::activeModalWidget()->findChild<QLineEdit*>();
+            EXPECT_TRUE(QTest::qWaitForWindowActive(box->window()));
+            box->setFocus();  // without it the file that was offered stays the chosen one
+            box->setText(QString::fromStdString(name));
+            QTimer::singleShot(0, &window, [&] {
+                if (auto* const question = window.findChild<QMessageBox*>()) {
+                    asked = true;
+                    question->button(QMessageBox::Yes)->click();
+                }
+            });
+            keyClick(box, Qt::Key_Return);
+        });
+        EXPECT_TRUE(chooser.AskSave(form.CD1));
+        EXPECT_EQ(form.CD1.FileName, saved);
+        EXPECT_EQ(asked, typed == folder / "there") << typed;
+    }
+}

@@ -1,0 +1,187 @@
+#include "WindowTest.h"
+
+#include "window/MessageDialogs.h"
+
+TEST_F(WindowTest, OnlyKeysThatBringOrTakeACharacterCountAsPresses) {
+    auto* const box = Find<QLineEdit>("txtWind");
+    QInputMethodEvent commit;
+    commit.setCommitString("7");
+    const auto press = [box](Qt::Key key, Qt::KeyboardModifiers with = {}) {
+        return [box, key, with] { keyClick(box, key, with); };
+    };
+    struct Row {
+        std::function<void()> act;
+        bool isPress;
+        const char* text;  // of a box that showed "123" with the insertion point behind the 2
+    };
+    const Row rows[]{
+        {press(Qt::Key_5), true, "1253"},
+        {press(Qt::Key_Backspace), true, "13"},
+        {press(Qt::Key_Return), true, "123"},
+        {press(Qt::Key_V, Qt::ControlModifier), true, "12893"},
+        {press(Qt::Key_X, Qt::ControlModifier), true, "123"},
+        {[&] { QApplication::sendEvent(box, &commit); }, true, "1273"},
+        {press(Qt::Key_Delete), false, "12"},
+        {press(Qt::Key_Backspace, Qt::ControlModifier), false, "3"},
+        {press(Qt::Key_Escape), false, "123"},
+        {press(Qt::Key_Left), false, "123"},
+        {press(Qt::Key_Tab), false, "123"},
+        {[&] { box->paste(); }, false, "12893"},   // from the menu
+        {[&] { box->setText("9"); }, false, "9"},  // as helping technologies do
+    };
+    QApplication::clipboard()->setText("89");
+    for (const Row& row : rows) {
+        form.txtWind.SetText("123");
+        form.Command2.SetEnabled(false);
+        window.RunPendingEvents();
+        box->setFocus();
+        box->setCursorPosition(2);
+        row.act();
+        EXPECT_EQ(Find("Command2")->isEnabled(), row.isPress) << "row " << &row - rows;
+        EXPECT_EQ(form.txtWind.Text(), row.text) << "row " << &row - rows;
+    }
+}
+
+TEST_F(WindowTest, FocusSelectsAllALaterClickPlacesTheCaretARewriteSendsItToTheEnd) {
+    auto* const wind = Find<QLineEdit>("txtWind");
+    auto* const part = Find<QLineEdit>("txtPart");
+    for (int round = 0; round < 2; ++round) {
+        mouseClick(wind, Qt::LeftButton);
+        EXPECT_EQ(wind->selectedText(), "10");
+        keyClick(wind, Qt::Key_Tab);
+        EXPECT_EQ(part->selectedText(), "20");
+        EXPECT_EQ(form.txtWind.SelLength(), 2U) << "though the widget has forgotten it";
+    }
+    mouseClick(part, Qt::LeftButton, {}, QPoint(2, 5));
+    EXPECT_EQ(part->cursorPosition(), 0);
+    EXPECT_EQ(form.txtPart.SelLength(), 0U);
+    keyClick(part, Qt::Key_5);
+    EXPECT_EQ(part->text(), "50") << "the highest value in place of 520";
+    EXPECT_EQ(part->cursorPosition(), 2);
+}
+
+TEST_F(WindowTest, TextThatIsNoUtf8KeepsItsBytesUntilTheUserEditsIt) {
+    auto* const box = Find<QLineEdit>("txtTopFile");
+    const std::string old = "/Pel\xE9\x65\x85";
+    form.txtTopFile.SetText(old);
+    window.RunPendingEvents();
+    EXPECT_EQ(box->text(), QString::fromUtf8("/Pelée…"));
+    box->setFocus();
+    keyClick(box, Qt::Key_Return);
+    EXPECT_EQ(form.txtTopFile.Text(), old);
+    box->setCursorPosition(5);
+    keyClick(box, Qt::Key_X);
+    EXPECT_EQ(form.txtTopFile.Text(), "/Peléxe…");
+}
+
+TEST_F(WindowTest, NothingButAChoiceInTheOpenListIsAPick) {
+    auto* const list = Find<QComboBox>("cmbType");
+    int picks = 0;
+    form.cmbType.Click = [&picks] { ++picks; };
+    QWheelEvent wheel({5, 5}, {5, 5}, {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase, false);
+    for (const auto key : {Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown}) {
+        list->setFocus();
+        list->lineEdit()->selectAll();
+        QTest::keyClicks(list, "Erosion");
+        keyClick(list, Qt::Key_Return);
+        QApplication::sendEvent(list, &wheel);
+        keyClick(list, key);
+        EXPECT_TRUE(list->view()->isVisible()) << key;
+        keyClick(list->view(), Qt::Key_Home);
+        keyClick(list->view(), Qt::Key_Escape);
+        EXPECT_FALSE(list->view()->isVisible());
+        EXPECT_EQ(form.cmbType.Text(), "Erosion");
+        form.cmbType.SetText("Faulting");
+        window.RunPendingEvents();
+        Find("txtLoc")->setFocus();
+        EXPECT_EQ(form.cmbType.Text(), "Faulting");
+    }
+    EXPECT_EQ(picks, 0);
+
+    list->showPopup();
+    EXPECT_EQ(list->view()->currentIndex().row(), 7) << "the entry on show";
+    keyClick(list->view(), Qt::Key_Down);
+    keyClick(list->view(), Qt::Key_Return);
+    EXPECT_EQ(form.cmbType.Text(), "Erosion");
+    list->showPopup();
+    const QRect erosion = list->view()->visualRect(list->model()->index(8, 0));
+    mouseClick(list->view()->viewport(), Qt::LeftButton, {}, erosion.center());
+    EXPECT_EQ(picks, 2) << "the second one of the entry on show";
+}
+
+TEST_F(WindowTest, TabGoesThroughTheWholeForm) {
+    for (Control* control : form.Controls()) {
+        control->SetEnabled(true);
+    }
+    window.RunPendingEvents();
+    Find("cmbPhase")->setFocus();
+    QStringList passed;
+    do {
+        QWidget* const now = QApplication::focusWidget();
+        const QImage focused = now->grab().toImage();
+        passed += now->objectName();
+        keyClick(now, Qt::Key_Tab);
+        EXPECT_NE(now->grab().toImage(), focused) << passed.back().toStdString();
+    } while (!passed.contains(QApplication::focusWidget()->objectName()));
+    EXPECT_EQ(passed.join(' '),
+              "cmbPhase cmbStyle chkCald chkDirected chkBurst txtMag cmbType txtLoc txtStr txtWind "
+              "txtPart txtBurst txtCtop txtCbase txtDip txtErode cmdDelete cmbDown cmdAdd "
+              "cmdChange Command1 Command2 cmbFlow txtLava cmdReset txtTopFile cmdOpen cmdHelp "
+              "optLarge optNormal optSmall txtSlide1 txtSlide3 txtSlide5 txtSlide2 txtSlide4 "
+              "txtSlide6 txtMap1 txtMap3 txtMap2 txtMap4");
+}
+
+TEST_F(WindowTest, EnterPressesAButtonAndASelectedOptionStays) {
+    keyClick(Find("cmdAdd"), Qt::Key_Return);
+    EXPECT_EQ(form.EditPhaseCount, 2);
+    auto* const small = Find<QAbstractButton>("optSmall");
+    small->click();
+    small->click();
+    EXPECT_TRUE(small->isChecked());
+}
+
+TEST_F(WindowTest, TheFormBehindAMessageIsUpToDate) {
+    QString behind;
+    QTimer::singleShot(0, &window, [&] {
+        behind = Find<QLabel>("labPhases")->text();
+        QApplication::activeModalWidget()->close();
+    });
+    form.cmdAdd.Click = [this] {
+        form.labPhases.SetCaption("7");
+        MessageDialogs(window).Show("Text", MessageIcon::Stop, "Title");
+    };
+    keyClick(Find("cmdAdd"), Qt::Key_Return);
+    EXPECT_EQ(behind, "7");
+}
+
+TEST_F(WindowTest, TipsStandOverTheirOwnControlsOnly) {
+    const auto tipOver = [this](const char* name) {
+        QToolTip::hideText();
+        QHelpEvent event(QEvent::ToolTip, {3, 3}, Find(name)->mapToGlobal(QPoint(3, 3)));
+        QApplication::sendEvent(Find(name), &event);
+        return QToolTip::text();
+    };
+    EXPECT_EQ(tipOver("labLoc"), "");
+    EXPECT_EQ(tipOver("txtMag"), "Edit the fault magnitude (0-5)") << "disabled, and has a tip";
+    QTest::mouseMove(Find("txtTopFile"), {5, 5});
+    EXPECT_EQ(tipOver("txtTopFile"), "No stratigraphic file attached");
+}
+
+TEST_F(WindowTest, NothingIsCutOffInAnyFont) {
+    for (const int points : {6, 20, 9}) {
+        QApplication::setFont(QFont(QApplication::font().family(), points));
+        FormWindow sized(form);
+        sized.Show();
+        for (const CatalogueRow& row : Catalogue()) {
+            auto* const widget = sized.findChild<QWidget*>(row.name.data());
+            auto* const list = qobject_cast<QComboBox*>(widget);
+            auto* const line = list ? list->lineEdit() : qobject_cast<QLineEdit*>(widget);
+            for (const QString& text : widget ? TextsToFit(row) : QStringList()) {
+                const QSize wanted = widget->fontMetrics().size(0, text);
+                EXPECT_GE((line ? line : widget)->width(), wanted.width() + (line ? 4 : 0))
+                    << row.name;
+                EXPECT_GE(widget->height(), wanted.height()) << row.name << points;
+            }
+        }
+    }
+}
