@@ -3,7 +3,8 @@
 # configuration, as in: scripts/test.sh -DTEPHREX_WERROR=ON
 . "$(dirname "$0")/lib.sh"
 
-install_missing "${build_packages[@]}" "${screen_packages[@]}" libgtest-dev
+install_missing "${build_packages[@]}" "${screen_packages[@]}" libgtest-dev \
+    at-spi2-core dbus-daemon python3-pyatspi
 cmake --preset default -DBUILD_TESTING=ON "$@"
 cmake --build --preset default -j "$(nproc)"
 ctest --preset default -j "$(nproc)"

@@ -123,7 +123,7 @@ TEST_F(DisplayTest, AFaultIsToldBeforeTheFormMovesAndNothingIsAppliedBeforeAllPa
     Open({GoodPhase(5), full, With(GoodPhase(0), &P::faultDownSide, 0)}, {100, 200});
     form.cmdDelete.Press(), form.txtBurst.PressKey("3"), form.txtBurst.PressKey("2");
     platform.whileMessageShows = [this] { EXPECT_EQ(form.cmbPhase.Text() + form.cmbType.Text(), "Phase 1Hawaiian"); };
-    EXPECT_EQ(Texts({Save(), form.cmbPhase.Text(), form.cmbType.Text()}), Texts({"Phase 2 Must select down side", "Phase 2", "Faulting"}));
+    EXPECT_EQ(Texts({Save(), form.cmbPhase.Text() + form.cmbType.Text() + form.cmbFlow.Text()}), Texts({"Phase 2 Must select down side", "Phase 2Faulting"}));
     EXPECT_EQ(std::tuple(form.LoadedPhases[1], form.LoadedPhaseCount, form.Command2.Enabled()), std::tuple(GoodPhase(5), 3, false));
     Pick(form.cmbDown, "Right side down");
     for (const auto& [typed, kept] : {std::pair("a.str", "a.str"), {"", "(None)"}, {"b.str", "(None)"}}) {

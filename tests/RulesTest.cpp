@@ -107,19 +107,19 @@ TEST_F(FormTest, LoadedTypeBringsLoadedDurationsBackAndAnyOtherDrawsNewOnes) {
         EXPECT_EQ(std::tuple(flows, draws.size()), std::tuple(durations, 0U)) << type;
     };
     P phase = GoodPhase(3);
-    phase.burstCount = 3, Open({GoodPhase(5), phase}, {100, 200.26F, 123.456F}), Pick(form.cmbPhase, "Phase 2"), Pick(form.cmbFlow, "Flow 3 Duration");
+    phase.burstCount = 3, Open({GoodPhase(5), phase}, {100.26F, 200.26F, 123.456F}), Pick(form.cmbPhase, "Phase 2"), Pick(form.cmbFlow, "Flow 3 Duration");
     EXPECT_EQ(std::tuple(form.txtLava.Text(), form.EditFlows[2][2], form.EditFlows[2][3]), std::tuple("123.5", 200.26F, 123.5F));
-    pick("Hawaiian", {}, {100, 200.26F, 123.456F}), pick("Plinian", {}, {}), form.txtBurst.PressKey("4");
-    pick("Hawaiian", {}, {100, 200.26F, 123.456F, 0}), pick("Peléean", {0.5F, 0.5F, 0, 0.5F}, {105, 110, 10, 120});
-    pick("Hawaiian", {}, {100, 200.26F, 123.456F, 0});
-    form.cmdAdd.Press(), pick("Plinian", {}, {}), form.txtBurst.PressKey("3"), pick("Hawaiian", {0, 0.5F, 0.75F}, {20, 600, 900});
+    pick("Hawaiian", {}, {100.3F, 200.26F, 123.456F}), pick("Plinian", {}, {}), form.txtBurst.PressKey("4");
+    pick("Hawaiian", {}, {100.3F, 200.26F, 123.456F, 0}), pick("Peléean", {0.5F, 0.5F, 0, 0.5F}, {105, 110, 10, 120});
+    pick("Hawaiian", {}, {100.3F, 200.26F, 123.456F, 0}), form.cmdAdd.Press();
+    pick("Plinian", {}, {}), form.txtBurst.PressKey("3"), pick("Hawaiian", {0, 0.5F, 0.75F}, {20, 600, 900});
     form.txtSlide1.PressKey("7"), pick("Hawaiian", {0.5F, 0.25F, 0.75F}, {660, 330, 990});
     form.txtSlide1.PressKey("1"), pick("Hawaiian", {0.5F, 0.03125F, 0.0625F}, {300, 20, 37.5F});
     pick("Peléean", {0.5F, 0.0625F, 0.5F}, {52.5F, 10, 57.5F});
     form.txtSlide1.PressKey("11"), pick("Peléean", {0.5F, 0.03125F, 0.5F}, {157.5F, 10.3125F, 172.5F});
     pick("Plinian", {}, {}), form.txtBurst.PressKey("101");  // the row of flows ends at 100
     pick("Hawaiian", std::deque<Single>(100, 0.0625F), std::vector<Single>(100, 112.5F));
-    Pick(form.cmbPhase, "Phase 2"), pick("Plinian", {}, {}), form.txtBurst.PressKey("101"), Pick(form.cmbType, "Hawaiian");
-    EXPECT_EQ(std::tuple(form.EditPhases[2].burstCount, form.cmbFlow.Entries().size()), std::tuple(101, 100U));
+    Pick(form.cmbPhase, "Phase 2"), pick("Plinian", {}, {}), form.txtBurst.PressKey("101"), Pick(form.cmbType, "Hawaiian"), Pick(form.cmbPhase, "Phase 3");
+    EXPECT_EQ(std::tuple(form.CurPhase, form.EditPhases[2].burstCount, form.cmbFlow.Entries().size()), std::tuple(3, 101, 100U));
     EXPECT_EQ(NewRandomSource()(), 13668795 / 16777216.0F);  // every run starts with this draw
 }

@@ -52,15 +52,15 @@ def choose_type(entry):
     soon(entry, lambda: text(kind))
 
 
-heard = []
-pyatspi.Registry.registerEventListener(
-    lambda event: heard.append((event.source.getRoleName(), event.source.name)),
-    "object:property-change")
 soon(1, lambda: len(list(pyatspi.Registry.getDesktop(0))))
 found = {each.name: each
          for each in pyatspi.findAllDescendants(pyatspi.Registry.getDesktop(0)[0], own_focus)}
 soon({name: role for role, names in FOCUSABLE.items() for name in names.split("|")},
      lambda: {name: each.getRoleName() for name, each in found.items()})
+heard = []
+pyatspi.Registry.registerEventListener(
+    lambda event: heard.append((event.source.getRoleName(), event.source.name)),
+    "object:property-change")
 strength = found["Strength"]
 soon("Edit the eruption strength", lambda: strength.description)
 soon(["8.50", "Faulting"], lambda: [text(found[name]) for name in ("Vent location", "Eruption Type")])

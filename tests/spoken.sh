@@ -3,7 +3,7 @@
 # works the running program on a private bus.
 . "$(dirname "$0")/../scripts/lib.sh"
 
-install_missing at-spi2-core dbus-daemon python3-pyatspi
+install_missing "${screen_packages[@]}" at-spi2-core dbus-daemon python3-pyatspi
 if [ -z "${TEPHREX_PRIVATE_BUS-}" ]; then
     exec env TEPHREX_PRIVATE_BUS=1 dbus-run-session -- tests/spoken.sh "$@"
 fi

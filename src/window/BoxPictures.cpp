@@ -2,6 +2,7 @@
 
 #include <QAbstractItemView>
 #include <QCursor>
+#include <QLineEdit>
 #include <QPixmap>
 
 #include "window/ScreenText.h"
@@ -14,8 +15,8 @@ constexpr QColor PaleYellow(255, 255, 192);
 
 TextBoxPicture::TextBoxPicture(const Subject& subject) : PictureOf(subject) {
     widget.setAlignment(Qt::AlignCenter);
-    connect(&widget, &LineBox::KeyPressed, this, [this] { TakeText(&TextBox::PressKey); });
-    connect(&widget, &LineBox::Edited, this, [this] { TakeText(&TextBox::Edit); });
+    connect(&widget, &LineBox::KeyPressed, this, [this] { TakeText(By::Key); });
+    connect(&widget, &LineBox::Edited, this, [this] { TakeText(By::OtherMeans); });
     connect(&widget, &LineBox::SelectionMoved, this,
             [this] { UserActs([this] { TakeSelection(); }); });
 }
@@ -31,10 +32,15 @@ void TextBoxPicture::Update() {
 bool TextBoxPicture::ShowsText() const { return widget.text() == ToScreen(control.Text()); }
 
 // Text that the user has left alone keeps the bytes that the control has for it.
-void TextBoxPicture::TakeText(Door door) {
-    UserActs([this, door] {
+void TextBoxPicture::TakeText(By means) {
+    UserActs([this, means] {
         const std::string text = ShowsText() ? control.Text() : FromScreen(widget.text());
-        (control.*door)(text, BytePlace(text, widget.cursorPosition()));
+        const std::size_t caret = BytePlace(text, widget.cursorPosition());
+        if (means == By::Key) {
+            control.PressKey(text, caret);
+        } else {
+            control.Edit(text, caret);
+        }
         TakeSelection();
     });
 }
@@ -69,7 +75,9 @@ ComboBoxPicture::ComboBoxPicture(const Subject& subject) : PictureOf(subject) {
     widget.setPalette(PalePalette(widget.palette(), PaleYellow));
     widget.view()->setPalette(widget.palette());
     if (Row().look == Look::OwnPointer) {
-        widget.setCursor(QCursor(QPixmap(":/window/down-32.xpm"), 12, 1));
+        const QCursor hand(QPixmap(":/window/down-32.xpm"), 12, 1);
+        widget.setCursor(hand);
+        widget.lineEdit()->setCursor(hand);  // which has a pointer of its own otherwise
     }
     connect(&widget, &ListBox::Picked, this, &ComboBoxPicture::TakePick);
     connect(&widget, &QComboBox::editTextChanged, this, &ComboBoxPicture::TakeText);

@@ -14,10 +14,10 @@ public:
     QSize SizeWith(const QString& text) override { return widget.SizeFor(text); }
 
 private:
-    using Door = void (TextBox::*)(std::string_view, std::size_t);
+    enum class By { Key, OtherMeans };
 
     bool ShowsText() const;
-    void TakeText(Door door);
+    void TakeText(By means);
     void TakeSelection();
     void ShowSelection();
 };

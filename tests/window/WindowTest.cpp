@@ -78,7 +78,7 @@ TEST_F(WindowTest, NothingButAChoiceInTheOpenListIsAPick) {
     auto* const list = Find<QComboBox>("cmbType");
     int picks = 0;
     form.cmbType.Click = [&picks] { ++picks; };
-    QWheelEvent wheel({5, 5}, {5, 5}, {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase, false);
+    QWheelEvent wheel({5, 5}, {5, 5}, {}, {0, 120}, Qt::NoButton, {}, Qt::NoScrollPhase, false);
     for (const auto key : {Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown}) {
         list->setFocus();
         list->lineEdit()->selectAll();
