@@ -51,11 +51,11 @@ void Commit(RecordEdit& form) {
 
 bool ApplyParams(RecordEdit& form) {
     bool passed = false;
-    WithErrorPath(form, "ApplyParams", [&form, &passed] {
+    const bool completed = WithErrorPath(form, "ApplyParams", [&form, &passed] {
         passed = AllPass(form);
         if (passed) {
             Commit(form);
         }
     });
-    return passed;
+    return completed && passed;
 }

@@ -1,0 +1,37 @@
+// Bytes as the acts of a user at the form; after each of them the monkey's invariants hold.
+
+#include <cstdint>
+
+#include "Acts.h"
+#include "Require.h"
+
+namespace {
+
+class FuzzedForm : public FormTest {
+public:
+    void Run(const std::uint8_t* byte, const std::uint8_t* end) {
+        SetUp();
+        User user(form, platform, folder, [&byte, end](std::size_t below) {
+            std::size_t choice = 0;
+            for (std::size_t reach = 1; reach < below && byte != end; reach *= 256) {
+                choice = choice * 256 + *byte++;
+            }
+            return choice % below;
+        });
+        while (byte != end) {
+            const std::string act = user.Act();
+            const std::string broken = user.Broken();
+            Require(broken.empty(), broken + ", after: " + act);
+        }
+    }
+
+private:
+    void TestBody() override {}
+};
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    FuzzedForm().Run(data, data + size);
+    return 0;
+}
