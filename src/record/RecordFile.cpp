@@ -1,7 +1,9 @@
 #include "record/RecordFile.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <cstring>
 #include <exception>
 #include <filesystem>
@@ -9,6 +11,7 @@
 #include <stdexcept>
 #include <string_view>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 #include "editing/Numbers.h"
@@ -51,8 +54,15 @@ public:
     void SkipNumber() { Next(Comma | LineEnd | Blank); }
 
     // An item that is no number gives 0.
-    void Read(Single& value) { Convert(value); }
+    void Read(Single& value) {
+        if (!ReadInPlace(value)) {
+            Convert(value);
+        }
+    }
     void Read(Integer& value) {
+        if (ReadInPlace(value)) {
+            return;
+        }
         double number = 0;
         Convert(number);
         const auto rounded = RoundToInteger(number);
@@ -79,6 +89,24 @@ private:
 
     bool Is(std::size_t position, unsigned kinds) const {
         return (Kinds[static_cast<unsigned char>(buffer[position])] & kinds) != 0;
+    }
+
+    // A number as files mostly have it, up to the next separator in the buffer, needs no second
+    // look. False, and nothing taken, for any other item.
+    template <class Number>
+    bool ReadInPlace(Number& value) {
+        PassBehind();
+        Number number = 0;
+        const auto [stop, error] = std::from_chars(buffer.data() + at, buffer.data() + end, number);
+        const auto after = static_cast<std::size_t>(stop - buffer.data());
+        const bool plain = error == std::errc{} && std::isfinite(number) && after < end &&
+                           Is(after, Comma | LineEnd);
+        if (plain) {
+            value = number;
+            at = after;
+            behind = Behind::Separator;
+        }
+        return plain;
     }
 
     template <class Number>
@@ -116,7 +144,7 @@ private:
         } else if (behind == Behind::Separator) {
             SkipWhile([this] { return Is(at, Blank); });
         }
-        if (behind == Behind::Nothing || !More()) {
+        if (std::exchange(behind, Behind::Nothing) == Behind::Nothing || !More()) {
             return;
         }
         const char separator = buffer[at];
@@ -249,9 +277,8 @@ private:
         const Single unsignedZero = item == 0 ? 0 : item;
         const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), unsignedZero,
                                        std::chars_format::general, 7);
-        for (char* c = digits.data(); c != end.ptr; ++c) {
-            text += *c == 'e' ? 'E' : *c;
-        }
+        std::replace(digits.data(), end.ptr, 'e', 'E');
+        text.append(digits.data(), end.ptr);
     }
 
     std::streambuf& target;

@@ -1,0 +1,56 @@
+// The records that the benchmarks work on, and a form that has one of them open.
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <string>
+
+#include "form/RecordEdit.h"
+
+/// A record of that many Hawaiian phases with 100 flows each. It passes every check, and no two
+/// neighbouring phases show the same number in any box but that of the bursts. Records that differ
+/// in `shift` have other phases at the same places.
+std::unique_ptr<EditorState> RecordOf(Integer phases, int shift = 0);
+
+/// The same as a file, which goes with the object.
+class RecordOnDisk {
+public:
+    explicit RecordOnDisk(Integer phases, int shift = 0);
+    ~RecordOnDisk() { std::filesystem::remove(path); }
+    RecordOnDisk(const RecordOnDisk&) = delete;
+    RecordOnDisk& operator=(const RecordOnDisk&) = delete;
+
+    const std::string& Path() const { return path; }
+    std::string Bytes() const;
+
+private:
+    std::string path;
+};
+
+/// A platform without a screen; its open dialog gives the name `answer`.
+class QuietPlatform : public MessageBoxes, public FileDialogs, public HelpViewer, public Window {
+public:
+    std::string answer;
+
+    void Show(const std::string&, MessageIcon, std::string_view) override {}
+    bool AskOpen(CommonDialog& dialog) override;
+    bool AskSave(CommonDialog&) override { return false; }
+    void ShowHelp(const CommonDialog&) override {}
+    Extent ScreenSize() override { return {}; }
+    Extent FormSize() override { return {}; }
+    void Move(int, int) override {}
+    void Show() override {}
+    void RunPendingEvents() override {}
+    void Unload() override {}
+};
+
+/// A form without a window, loaded as the program loads it.
+struct QuietForm {
+    QuietForm();
+
+    /// Opens the record through the form's button.
+    void Open(const RecordOnDisk& record);
+
+    QuietPlatform platform;
+    RecordEdit form;
+};

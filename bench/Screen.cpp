@@ -1,0 +1,116 @@
+#include "Screen.h"
+
+#include <poll.h>
+#include <spawn.h>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <xcb/damage.h>
+
+#include <csignal>
+#include <cstdlib>
+#include <memory>
+#include <stdexcept>
+
+namespace {
+
+using namespace std::chrono_literals;
+
+// Long enough for a program that reads a file between two changes.
+constexpr auto StandsStill = 1s;
+constexpr auto WindowIsGone = 200ms;
+
+// An insertion point blinks for ever; anything narrower than this is taken for one.
+constexpr int NarrowestChange = 16;
+
+pid_t Start(const Command& command) {
+    std::vector<char*> arguments;
+    for (const std::string& argument : command) {
+        arguments.push_back(const_cast<char*>(argument.c_str()));  // only read, says POSIX
+    }
+    arguments.push_back(nullptr);
+    pid_t process = 0;
+    if (posix_spawnp(&process, arguments[0], nullptr, nullptr, arguments.data(), environ) != 0) {
+        throw std::runtime_error("Cannot start " + command[0]);
+    }
+    return process;
+}
+
+double Seconds(const timeval& time) {
+    return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_usec) * 1e-6;
+}
+
+struct Free {
+    void operator()(void* reply) const { std::free(reply); }
+};
+
+}  // namespace
+
+Usage RunToEnd(const Command& command) {
+    const pid_t process = Start(command);
+    int status = 0;
+    rusage usage{};
+    wait4(process, &status, 0, &usage);
+    if (status != 0) {
+        throw std::runtime_error(command[0] + " failed");
+    }
+    return {Seconds(usage.ru_utime) + Seconds(usage.ru_stime),
+            static_cast<double>(usage.ru_maxrss) / 1024};
+}
+
+Screen::Screen() : connection(xcb_connect(nullptr, nullptr)) {
+    const xcb_query_extension_reply_t* const extension =
+        xcb_get_extension_data(connection, &xcb_damage_id);
+    if (extension == nullptr || extension->present == 0) {
+        throw std::runtime_error("No X display, or one that does not tell of its changes");
+    }
+    damageEvent = static_cast<std::uint8_t>(extension->first_event + XCB_DAMAGE_NOTIFY);
+    const std::unique_ptr<xcb_damage_query_version_reply_t, Free> version(
+        xcb_damage_query_version_reply(connection, xcb_damage_query_version(connection, 1, 1),
+                                       nullptr));
+    const xcb_window_t root = xcb_setup_roots_iterator(xcb_get_setup(connection)).data->root;
+    xcb_damage_create(connection, xcb_generate_id(connection), root,
+                      XCB_DAMAGE_REPORT_LEVEL_RAW_RECTANGLES);
+    xcb_flush(connection);
+}
+
+double Screen::SecondsToLastChange(const Command& command) {
+    LastChange(WindowIsGone);
+    const Clock::time_point start = Clock::now();
+    const pid_t process = Start(command);
+    const auto last = LastChange(StandsStill);
+    kill(process, SIGKILL);
+    waitpid(process, nullptr, 0);
+    if (!last) {
+        throw std::runtime_error(command[0] + " shows nothing");
+    }
+    return std::chrono::duration<double>(*last - start).count();
+}
+
+std::optional<Screen::Clock::time_point> Screen::LastChange(Clock::duration quiet) {
+    std::optional<Clock::time_point> last;
+    Clock::time_point end = Clock::now() + quiet;
+    pollfd waiting{xcb_get_file_descriptor(connection), POLLIN, 0};
+    for (auto now = Clock::now(); now < end; now = Clock::now()) {
+        if (TakeChanges()) {
+            last = now;
+            end = now + quiet;
+        }
+        poll(&waiting, 1, 1);
+    }
+    return last;
+}
+
+bool Screen::TakeChanges() {
+    bool any = false;
+    for (;;) {
+        const std::unique_ptr<xcb_generic_event_t, Free> event(xcb_poll_for_event(connection));
+        if (event == nullptr) {
+            return any;
+        }
+        if ((event->response_type & 0x7F) == damageEvent) {
+            const auto& damage = reinterpret_cast<const xcb_damage_notify_event_t&>(*event);
+            any = any || damage.area.width >= NarrowestChange;
+        }
+    }
+}

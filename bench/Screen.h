@@ -1,0 +1,42 @@
+// Programs run from outside: how long until the screen stands still, and what a run has cost.
+#pragma once
+
+#include <xcb/xcb.h>
+
+#include <chrono>
+#include <optional>
+#include <string>
+#include <vector>
+
+using Command = std::vector<std::string>;
+
+struct Usage {
+    double processorSeconds;
+    double peakMegabytes;  // of resident memory
+};
+
+/// Runs a program until it ends by itself. Throws if it fails.
+Usage RunToEnd(const Command& command);
+
+/// The X display that the environment names.
+class Screen {
+public:
+    Screen();
+    ~Screen() { xcb_disconnect(connection); }
+    Screen(const Screen&) = delete;
+    Screen& operator=(const Screen&) = delete;
+
+    /// Starts a program, waits until nothing on the screen changes any more, ends the program, and
+    /// tells the seconds from its start to the last change.
+    double SecondsToLastChange(const Command& command);
+
+private:
+    using Clock = std::chrono::steady_clock;
+
+    /// When the last change came before `quiet` went by without one; nothing if none came at all.
+    std::optional<Clock::time_point> LastChange(Clock::duration quiet);
+    bool TakeChanges();
+
+    xcb_connection_t* connection;
+    std::uint8_t damageEvent = 0;
+};

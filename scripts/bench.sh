@@ -1,0 +1,37 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds the benchmarks in release mode, runs all of them and prints one
+# table. scripts/bench.sh --once takes each figure once, to see that the benchmarks still work.
+. "$(dirname "$0")/lib.sh"
+
+core=2 window=5 start=40 # seconds for each figure; programs take longer to start than to work
+if [ "${1:-}" = --once ]; then
+    core=0 window=0 start=0
+fi
+
+install_missing "${build_packages[@]}" libbenchmark-dev libxcb-damage0-dev xvfb xauth \
+    fonts-dejavu-core featherpad
+cmake -S . -B build/bench -DCMAKE_BUILD_TYPE=Release -DTEPHREX_BENCH=ON -DBUILD_TESTING=OFF \
+    >/dev/null
+cmake --build build/bench -j "$(nproc)" >/dev/null
+
+# No settings of the user's take part, and no disk: the records stand in memory.
+home=$(mktemp -d)
+trap 'rm -rf "$home"' EXIT
+export HOME=$home XDG_CONFIG_HOME=$home XDG_RUNTIME_DIR=$home LC_ALL=C.UTF-8
+[ -w /dev/shm ] && export TMPDIR=/dev/shm
+
+figures=build/bench/figures.txt
+bench=build/bench/bench
+{
+    "$bench/core_bench" --benchmark_min_time=$core
+    QT_QPA_PLATFORM=offscreen "$bench/window_bench" --benchmark_min_time=$window
+    xvfb-run -a -s "-screen 0 1600x1200x24 -noreset" \
+        "$bench/start_bench" --benchmark_min_time=$start
+} >"$figures"
+
+awk -F '\t' '
+    BEGIN { print_row("Figure", "Ours", "Reference", "Ratio", "Goal", "") }
+    { print_row($1, $2, $3, $4, $5, $6) }
+    function print_row(figure, ours, reference, ratio, goal, met) {
+        printf "%-42s %10s %10s %8s  %-17s  %s\n", figure, ours, reference, ratio, goal, met
+    }' "$figures"
