@@ -11,13 +11,12 @@ namespace {
 constexpr double MapStart = 50;
 constexpr double MapEnd = 1230;
 
-// What the checks look at, and what the flow checks have found.
+// What the checks look at, and the flow that one of them has found.
 struct Subject {
     PhaseRecord& phase;
     const FlowRow& flows;
     double factor;  // from a location to its place on the map
-    int badFlow = 0;
-    bool tooShort = false;
+    std::optional<BadFlow> badFlow = std::nullopt;
 
     double MapPosition(Single location) const { return factor * static_cast<double>(location); }
 };
@@ -65,17 +64,11 @@ bool NoCalderaStyle(Subject& s) { return s.phase.calderaFlag == 1 && s.phase.cal
 
 // Looks for the first flow that is too short or too long; its row and the next tell which.
 bool FlowTooShort(Subject& s) {
-    for (int j = 1; j <= s.phase.burstCount; ++j) {
-        s.tooShort = s.flows[j] < ShortestFlow(s.phase.eruptionType);
-        if (s.tooShort || static_cast<double>(s.flows[j]) > LongestFlow(s.phase, j)) {
-            s.badFlow = j;
-            break;
-        }
-    }
-    return s.tooShort;
+    s.badFlow = FirstBadFlow(s.phase, s.flows);
+    return s.badFlow && s.badFlow->tooShort;
 }
 
-bool FlowTooLong(Subject& s) { return s.badFlow != 0; }
+bool FlowTooLong(Subject& s) { return s.badFlow.has_value(); }
 
 template <auto Scarp>
 bool PutOnMap(Subject& s) {
@@ -170,7 +163,7 @@ std::optional<Fault> JudgePhase(PhaseRecord& phase, const FlowRow& flows, Intege
     std::optional<Fault> fault;
     for (const Check& check : Checks) {
         if ((check.types & type) != 0 && check.fails(subject)) {
-            fault = Fault{check.message, subject.badFlow};
+            fault = Fault{check.message, subject.badFlow ? subject.badFlow->flow : 0};
             if (check.then == Then::Stop) {
                 return fault;
             }

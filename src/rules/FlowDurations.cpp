@@ -18,17 +18,7 @@ int Fit16(int value) {
     return value;
 }
 
-}  // namespace
-
-RandomSource NewRandomSource() {
-    return [engine = std::mt19937()]() mutable {
-        return static_cast<Single>(engine() >> 8U) / 16777216.0F;
-    };
-}
-
-Single ShortestFlow(Integer eruptionType) {
-    return eruptionType == EruptionType::Hawaiian ? 20.0F : 10.0F;
-}
+Single ShortestFlow(bool hawaiian) { return hawaiian ? 20.0F : 10.0F; }
 
 double LongestFlow(const PhaseRecord& phase, int flow) {
     const int steps = Fit16(phase.flowLength - NeutralFlowLength);
@@ -39,11 +29,33 @@ double LongestFlow(const PhaseRecord& phase, int flow) {
     return neutral + Fit16(steps * neutral) / 10.0;
 }
 
+}  // namespace
+
+RandomSource NewRandomSource() {
+    return [engine = std::mt19937()]() mutable {
+        return static_cast<Single>(engine() >> 8U) / 16777216.0F;
+    };
+}
+
+std::optional<BadFlow> FirstBadFlow(const PhaseRecord& phase, const FlowRow& flows) {
+    const Single shortest = ShortestFlow(phase.eruptionType == EruptionType::Hawaiian);
+    for (int j = 1; j <= phase.burstCount; ++j) {
+        const Single duration = flows[j];
+        if (duration < shortest) {
+            return BadFlow{j, true};
+        }
+        if (static_cast<double>(duration) > LongestFlow(phase, j)) {
+            return BadFlow{j, false};
+        }
+    }
+    return std::nullopt;
+}
+
 Single NewFlowDuration(bool hawaiian, Integer flowLength, int flow, Single r) {
     const double steps = flowLength - NeutralFlowLength;
     const double span = hawaiian ? 1200.0 : 200.0 + 10.0 * flow;
     const auto raw = static_cast<Single>(static_cast<double>(r) * span);
     const auto drawn = static_cast<double>(raw);
     const auto scaled = static_cast<Single>(steps * drawn / 10.0 + drawn);
-    return std::max(scaled, hawaiian ? 20.0F : 10.0F);
+    return std::max(scaled, ShortestFlow(hawaiian));
 }

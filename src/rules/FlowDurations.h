@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 
 #include "record/PhaseRecord.h"
 
@@ -12,12 +13,16 @@ using RandomSource = std::function<Single()>;
 /// A generator that starts with the same sequence in every run.
 RandomSource NewRandomSource();
 
-/// The shortest duration that a flow may have: 20 for a Hawaiian phase, 10 for a Peléean one.
-Single ShortestFlow(Integer eruptionType);
+/// A flow whose duration is out of the limits of its phase, and on which side.
+struct BadFlow {
+    int flow;
+    bool tooShort;  // otherwise too long
+};
 
-/// The longest duration that flow number `flow` of the phase may have. Throws
-/// std::overflow_error where `flowLength` is so far out of range that 16 bits do not hold it.
-double LongestFlow(const PhaseRecord& phase, int flow);
+/// The first of the flows 1 to `burstCount` of a Hawaiian or Peléean phase that is out of its
+/// limits, if any. Throws std::overflow_error where a ceiling leaves 16 bits and std::out_of_range
+/// where a hundred flows do not reach.
+std::optional<BadFlow> FirstBadFlow(const PhaseRecord& phase, const FlowRow& flows);
 
 /// A new duration for flow number `flow`, from one draw r. `hawaiian` tells the rule, not the
 /// phase. The result lies within the limits above for a `flowLength` of 1 to 11.
