@@ -3,22 +3,17 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <cmath>
-#include <cstring>
 #include <exception>
 #include <filesystem>
 #include <fstream>
 #include <stdexcept>
 #include <string_view>
 #include <system_error>
-#include <utility>
-#include <vector>
 
-#include "editing/Numbers.h"
+#include "record/ItemReader.h"
 
 namespace {
 
-constexpr std::size_t LongestItem = 65535;
 constexpr std::size_t Piece = 16384;
 
 // The lines of a phase block that hold its fields, in the order of the file, which is not quite
@@ -32,179 +27,6 @@ void ForEachLine(Phase& p, Line&& line) {
     line(p.flowLength, p.craterSize, p.position3D, p.ventPosition, p.growth, p.speed);
     line(p.midRadius, p.depositAngle, p.leftAngle, p.rightAngle);
 }
-
-struct ReadError : std::runtime_error {
-    using std::runtime_error::runtime_error;
-};
-
-// Cuts a stream into items. It looks no further ahead than the piece in which an item ends, and
-// what stands behind an item is taken only when the next one is asked for.
-class ItemReader {
-public:
-    explicit ItemReader(std::streambuf& stream) : source(stream), buffer(LongestItem + 2 * Piece) {}
-
-    // An item of any kind, as text; the view holds until the next item is read.
-    std::string_view Text() {
-        std::string_view item = Next(Comma | LineEnd);
-        if (behind == Behind::Separator) {
-            item.remove_suffix(item.size() - (item.find_last_not_of(' ') + 1));
-        }
-        return item;
-    }
-    void SkipNumber() { Next(Comma | LineEnd | Blank); }
-
-    // An item that is no number gives 0.
-    void Read(Single& value) {
-        if (!ReadInPlace(value)) {
-            Convert(value);
-        }
-    }
-    void Read(Integer& value) {
-        if (ReadInPlace(value)) {
-            return;
-        }
-        double number = 0;
-        Convert(number);
-        const auto rounded = RoundToInteger(number);
-        if (!rounded) {
-            throw ReadError("Overflow");
-        }
-        value = *rounded;
-    }
-
-private:
-    enum Kind : unsigned char { Plain = 0, Comma = 1, LineEnd = 2, Blank = 4, Quote = 8 };
-
-    static constexpr std::array<unsigned char, 256> Kinds = [] {
-        std::array<unsigned char, 256> kinds{};
-        kinds[','] = Comma;
-        kinds['\r'] = kinds['\n'] = LineEnd;
-        kinds[' '] = Blank;
-        kinds['"'] = Quote;
-        return kinds;
-    }();
-
-    // What still stands between the last item and the next.
-    enum class Behind { Nothing, Separator, Rest };
-
-    bool Is(std::size_t position, unsigned kinds) const {
-        return (Kinds[static_cast<unsigned char>(buffer[position])] & kinds) != 0;
-    }
-
-    // A number as files mostly have it, up to the next separator in the buffer, needs no second
-    // look. False, and nothing taken, for any other item.
-    template <class Number>
-    bool ReadInPlace(Number& value) {
-        PassBehind();
-        Number number = 0;
-        const auto [stop, error] = std::from_chars(buffer.data() + at, buffer.data() + end, number);
-        const auto after = static_cast<std::size_t>(stop - buffer.data());
-        const bool plain = error == std::errc{} && std::isfinite(number) && after < end &&
-                           Is(after, Comma | LineEnd);
-        if (plain) {
-            value = number;
-            at = after;
-            behind = Behind::Separator;
-        }
-        return plain;
-    }
-
-    template <class Number>
-    void Convert(Number& value) {
-        Number number = 0;
-        if (FromDecimal(Next(Comma | LineEnd | Blank), number) == Conversion::TooLarge) {
-            throw ReadError("Overflow");
-        }
-        value = number;
-    }
-
-    std::string_view Next(unsigned ends) {
-        PassBehind();
-        SkipWhile([this] { return Is(at, Blank); });
-        if (!More()) {
-            throw ReadError("Input past end of file");
-        }
-        const bool quoted = Is(at, Quote);
-        if (quoted) {
-            ++at;
-        }
-        const std::size_t length = Measure(quoted ? unsigned{Quote} : ends);
-        const std::string_view item(buffer.data() + at, length);
-        at += length;
-        behind = quoted ? Behind::Rest : Behind::Separator;
-        return item;
-    }
-
-    // Takes what belongs to the last item: blanks and one comma or line end; behind a closing
-    // quote anything up to there.
-    void PassBehind() {
-        if (behind == Behind::Rest) {
-            at += at < end ? 1 : 0;
-            SkipWhile([this] { return !Is(at, Comma | LineEnd); });
-        } else if (behind == Behind::Separator) {
-            SkipWhile([this] { return Is(at, Blank); });
-        }
-        if (std::exchange(behind, Behind::Nothing) == Behind::Nothing || !More()) {
-            return;
-        }
-        const char separator = buffer[at];
-        if (Is(at, Comma | LineEnd)) {
-            ++at;
-        }
-        if (separator == '\r' && More() && buffer[at] == '\n') {
-            ++at;
-        }
-    }
-
-    // However much there is to skip, it belongs to one item, and an item has an end.
-    template <class Condition>
-    void SkipWhile(Condition condition) {
-        for (std::size_t skipped = 0; More() && condition(); ++at) {
-            if (++skipped > LongestItem) {
-                throw ReadError("Item too long");
-            }
-        }
-    }
-
-    // The length of the item at `at`, which ends before a character of these kinds or with the
-    // stream.
-    std::size_t Measure(unsigned ends) {
-        std::size_t length = 0;
-        do {
-            while (at + length < end && !Is(at + length, ends)) {
-                ++length;
-            }
-            if (length > LongestItem) {
-                throw ReadError("Item too long");
-            }
-        } while (at + length == end && Refill());
-        return length;
-    }
-
-    bool More() { return at < end || Refill(); }
-
-    // Brings in another piece behind what is not yet taken; false at the end of the stream, which
-    // stays the end even if the stream has more to give after a fault.
-    bool Refill() {
-        if (ended) {
-            return false;
-        }
-        std::memmove(buffer.data(), buffer.data() + at, end - at);
-        end -= at;
-        at = 0;
-        const std::streamsize got = source.sgetn(buffer.data() + end, Piece);
-        ended = got <= 0;
-        end += ended ? 0 : static_cast<std::size_t>(got);
-        return !ended;
-    }
-
-    std::streambuf& source;
-    std::vector<char> buffer;
-    std::size_t at = 0;
-    std::size_t end = 0;
-    bool ended = false;
-    Behind behind = Behind::Nothing;
-};
 
 void ReadPhase(ItemReader& in, PhaseRecord& phase, FlowRow& flows) {
     in.Text();  // the empty line
