@@ -18,6 +18,7 @@ using namespace std::chrono_literals;
 
 // Long enough for a program that reads a file between two changes.
 constexpr auto StandsStill = 1s;
+constexpr auto ComesUp = 30s;
 constexpr auto WindowIsGone = 200ms;
 
 // An insertion point blinks for ever; anything narrower than this is taken for one.
@@ -75,10 +76,10 @@ Screen::Screen() : connection(xcb_connect(nullptr, nullptr)) {
 }
 
 double Screen::SecondsToLastChange(const Command& command) {
-    LastChange(WindowIsGone);
+    LastChange(WindowIsGone, WindowIsGone);
     const Clock::time_point start = Clock::now();
     const pid_t process = Start(command);
-    const auto last = LastChange(StandsStill);
+    const auto last = LastChange(ComesUp, StandsStill);
     kill(process, SIGKILL);
     waitpid(process, nullptr, 0);
     if (!last) {
@@ -87,9 +88,10 @@ double Screen::SecondsToLastChange(const Command& command) {
     return std::chrono::duration<double>(*last - start).count();
 }
 
-std::optional<Screen::Clock::time_point> Screen::LastChange(Clock::duration quiet) {
+std::optional<Screen::Clock::time_point> Screen::LastChange(Clock::duration first,
+                                                            Clock::duration quiet) {
     std::optional<Clock::time_point> last;
-    Clock::time_point end = Clock::now() + quiet;
+    Clock::time_point end = Clock::now() + first;
     pollfd waiting{xcb_get_file_descriptor(connection), POLLIN, 0};
     for (auto now = Clock::now(); now < end; now = Clock::now()) {
         if (TakeChanges()) {

@@ -33,8 +33,9 @@ public:
 private:
     using Clock = std::chrono::steady_clock;
 
-    /// When the last change came before `quiet` went by without one; nothing if none came at all.
-    std::optional<Clock::time_point> LastChange(Clock::duration quiet);
+    /// When the last change came before `quiet` went by without one; nothing if none came within
+    /// `first`.
+    std::optional<Clock::time_point> LastChange(Clock::duration first, Clock::duration quiet);
     bool TakeChanges();
 
     xcb_connection_t* connection;
