@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr std::size_t Piece = 16384;
+constexpr std::size_t Piece = 32768;
 
 enum Kind : unsigned char { Plain = 0, Comma = 1, LineEnd = 2, Blank = 4, Quote = 8 };
 
@@ -107,16 +107,13 @@ std::string_view ItemReader::Next(unsigned ends) {
 // anything up to there.
 void ItemReader::PassBehind() {
     const Behind left = std::exchange(behind, Behind::Nothing);
-    if (left == Behind::Nothing) {
-        return;
-    }
     if (left == Behind::Rest) {
-        at += at < end ? 1 : 0;
+        at += at < end ? 1 : 0;  // the closing quote
         SkipWhile([this] { return !Is(at, Comma | LineEnd); });
-    } else {
+    } else if (left == Behind::Separator && More() && Is(at, Blank)) {
         SkipWhile([this] { return Is(at, Blank); });
     }
-    if (!More() || !Is(at, Comma | LineEnd)) {
+    if (left == Behind::Nothing || !More() || !Is(at, Comma | LineEnd)) {
         return;
     }
     const char separator = buffer[at++];
