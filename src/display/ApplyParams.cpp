@@ -3,9 +3,9 @@
 #include "display/Limits.h"
 #include "display/ShowData.h"
 #include "editing/Entries.h"
+#include "editing/Fields.h"
 #include "form/ErrorPath.h"
 #include "form/RecordEdit.h"
-#include "record/WorkingCopy.h"
 
 namespace {
 
@@ -15,8 +15,7 @@ void Report(RecordEdit& form, int phase, const Fault& fault) {
     form.cmbPhase.SetText(PhaseEntry(phase));
     cmbPhase_Click(form);
     if (fault.flow != 0) {
-        form.cmbFlow.SetText(FlowEntry(fault.flow));
-        form.txtLava.SetText(form.TextOf(form.EditFlows[phase][fault.flow], Format::OneDecimal));
+        ShowFlow(form, fault.flow);
     }
 }
 

@@ -33,11 +33,19 @@ constexpr Types Of(std::initializer_list<Integer> codes) {
 }
 
 constexpr Types All = ~0U;
-constexpr Types Located = ~Of({0, 6});
+constexpr Types Tectonic = Of({EruptionType::Tectonic});
+constexpr Types Vulcanian = Of({EruptionType::Vulcanian});
+constexpr Types Strombolian = Of({EruptionType::Strombolian});
+constexpr Types Flowing = Of({EruptionType::Hawaiian, EruptionType::Pelean});
+constexpr Types Plinian = Of({EruptionType::Plinian});
+constexpr Types Collapse = Of({EruptionType::Collapse});
+constexpr Types Fumarolic = Of({EruptionType::Fumarolic});
+constexpr Types Located = ~(Tectonic | Collapse);
+constexpr Types NoType = 1U << 8U;  // beyond the bits of the types
 
-// A code that is no type gets the checks for all types; its bit is beyond those of the types.
+// A code that is no type gets the checks for all types.
 constexpr Types BitOf(Integer code) {
-    return code >= EruptionType::Tectonic && code <= EruptionType::Fumarolic ? Of({code}) : 256U;
+    return code >= EruptionType::Tectonic && code <= EruptionType::Fumarolic ? Of({code}) : NoType;
 }
 
 using Fails = bool (*)(Subject& s);
@@ -101,53 +109,53 @@ using P = PhaseRecord;
 
 // clang-format off
 constexpr Check Checks[] = {
-    {Located,    LocationTooSmall,            " Location too small"},
-    {Located,    LocationTooLarge,            " Location too large"},
-    {All,        Below<&P::wind, -50>,        " Wind speed too negative"},
-    {All,        Above<&P::wind, 50>,         " Wind speed too high"},
+    {Located,     LocationTooSmall,            " Location too small"},
+    {Located,     LocationTooLarge,            " Location too large"},
+    {All,         Below<&P::wind, -50>,        " Wind speed too negative"},
+    {All,         Above<&P::wind, 50>,         " Wind speed too high"},
 
-    {Of({0}),    NoDownSide,                  " Must select down side"},
+    {Tectonic,    NoDownSide,                  " Must select down side"},
 
-    {Of({1}),    Above<&P::strength, 1>,      " Maximum Strength (1.0) exceeded."},
-    {Of({1}),    Below<&P::strength, 2, 10>,  " Minimum Strength (0.20) not met."},
-    {Of({1}),    NoCalderaStyle,              " Must select caldera style."},
-    {Of({1}),    Above<&P::midRadius, 640>,   " Mid radius must be <= 640 "},
-    {Of({1}),    Below<&P::depositAngle, -1>, " Deposit angle must be >= -1"},
-    {Of({1}),    Above<&P::depositAngle, 1>,  " Deposit angle must be <= 1"},
+    {Vulcanian,   Above<&P::strength, 1>,      " Maximum Strength (1.0) exceeded."},
+    {Vulcanian,   Below<&P::strength, 2, 10>,  " Minimum Strength (0.20) not met."},
+    {Vulcanian,   NoCalderaStyle,              " Must select caldera style."},
+    {Vulcanian,   Above<&P::midRadius, 640>,   " Mid radius must be <= 640 "},
+    {Vulcanian,   Below<&P::depositAngle, -1>, " Deposit angle must be >= -1"},
+    {Vulcanian,   Above<&P::depositAngle, 1>,  " Deposit angle must be <= 1"},
 
-    {Of({2}),    Above<&P::strength, 2>,      " Maximum Strength (2.00) exceeded."},
-    {Of({2}),    Below<&P::strength, 1, 10>,  " Minimum Strength (0.10) not met."},
-    {Of({2}),    Above<&P::midRadius, 640>,   " Mid radius must be <= 640 "},
-    {Of({2}),    Below<&P::depositAngle, -1>, " Deposit angle must be >= -1"},
-    {Of({2}),    Above<&P::depositAngle, 1>,  " Deposit angle must be <= 1"},
+    {Strombolian, Above<&P::strength, 2>,      " Maximum Strength (2.00) exceeded."},
+    {Strombolian, Below<&P::strength, 1, 10>,  " Minimum Strength (0.10) not met."},
+    {Strombolian, Above<&P::midRadius, 640>,   " Mid radius must be <= 640 "},
+    {Strombolian, Below<&P::depositAngle, -1>, " Deposit angle must be >= -1"},
+    {Strombolian, Above<&P::depositAngle, 1>,  " Deposit angle must be <= 1"},
 
-    {Of({3, 4}), FlowTooShort,                " Flow Duration too short."},
-    {Of({3, 4}), FlowTooLong,                 " Flow Duration too long."},
-    {Of({3, 4}), Above<&P::midRadius, 320>,   " Mid radius must be <= 320 "},
-    {Of({3, 4}), Below<&P::leftAngle, -4>,    " Left angle must be >= -4",  Then::GoOn},
-    {Of({3, 4}), Above<&P::leftAngle, 4>,     " Left angle must be <= 4",   Then::GoOn},
-    {Of({3, 4}), Below<&P::rightAngle, -4>,   " Right angle must be >= -4", Then::GoOn},
-    {Of({3, 4}), Above<&P::rightAngle, 4>,    " Right angle must be <= 4",  Then::GoOn},
+    {Flowing,     FlowTooShort,                " Flow Duration too short."},
+    {Flowing,     FlowTooLong,                 " Flow Duration too long."},
+    {Flowing,     Above<&P::midRadius, 320>,   " Mid radius must be <= 320 "},
+    {Flowing,     Below<&P::leftAngle, -4>,    " Left angle must be >= -4",  Then::GoOn},
+    {Flowing,     Above<&P::leftAngle, 4>,     " Left angle must be <= 4",   Then::GoOn},
+    {Flowing,     Below<&P::rightAngle, -4>,   " Right angle must be >= -4", Then::GoOn},
+    {Flowing,     Above<&P::rightAngle, 4>,    " Right angle must be <= 4",  Then::GoOn},
 
-    {Of({5}),    Above<&P::strength, 1>,      " Maximum Plinian strength (1.00) exceeded."},
-    {Of({5}),    Below<&P::strength, 1, 10>,  " Minimum Strength (0.10) not met."},
-    {Of({5}),    NoCalderaStyle,              " Must select caldera style."},
-    {Of({5}),    Above<&P::midRadius, 640>,   " Mid radius must be <= 640 "},
-    {Of({5}),    Below<&P::depositAngle, -1>, " Deposit angle must be >= -1"},
-    {Of({5}),    Above<&P::depositAngle, 1>,  " Deposit angle must be <= 1"},
+    {Plinian,     Above<&P::strength, 1>,      " Maximum Plinian strength (1.00) exceeded."},
+    {Plinian,     Below<&P::strength, 1, 10>,  " Minimum Strength (0.10) not met."},
+    {Plinian,     NoCalderaStyle,              " Must select caldera style."},
+    {Plinian,     Above<&P::midRadius, 640>,   " Mid radius must be <= 640 "},
+    {Plinian,     Below<&P::depositAngle, -1>, " Deposit angle must be >= -1"},
+    {Plinian,     Above<&P::depositAngle, 1>,  " Deposit angle must be <= 1"},
 
-    {Of({6}),    PutOnMap<&P::scarpTop>,      " Scarp top reset"},
-    {Of({6}),    PutOnMap<&P::scarpBase>,     " Scarp base reset"},
-    {Of({6}),    ScarpsEqual,                 " Scarp base and top cannot be equal"},
-    {Of({6}),    Above<&P::midRadius, 128>,   " Mid radius must be <= 128 "},
-    {Of({6}),    Below<&P::depositAngle, -1>, " Deposit angle must be >= -1"},
-    {Of({6}),    Above<&P::depositAngle, 1>,  " Deposit angle must be <= 1"},
+    {Collapse,    PutOnMap<&P::scarpTop>,      " Scarp top reset"},
+    {Collapse,    PutOnMap<&P::scarpBase>,     " Scarp base reset"},
+    {Collapse,    ScarpsEqual,                 " Scarp base and top cannot be equal"},
+    {Collapse,    Above<&P::midRadius, 128>,   " Mid radius must be <= 128 "},
+    {Collapse,    Below<&P::depositAngle, -1>, " Deposit angle must be >= -1"},
+    {Collapse,    Above<&P::depositAngle, 1>,  " Deposit angle must be <= 1"},
 
-    {Of({7}),    Below<&P::strength, 1, 10>,  " Fumarolic strength too low."},
-    {Of({7}),    Above<&P::strength, 1>,      " Maximum Fumarolic strength exceeded."},
-    {Of({7}),    Above<&P::midRadius, 640>,   " Mid radius must be <= 640 "},
-    {Of({7}),    Below<&P::depositAngle, -1>, " Deposit angle must be >= -1"},
-    {Of({7}),    Above<&P::depositAngle, 1>,  " Deposit angle must be <= 1"},
+    {Fumarolic,   Below<&P::strength, 1, 10>,  " Fumarolic strength too low."},
+    {Fumarolic,   Above<&P::strength, 1>,      " Maximum Fumarolic strength exceeded."},
+    {Fumarolic,   Above<&P::midRadius, 640>,   " Mid radius must be <= 640 "},
+    {Fumarolic,   Below<&P::depositAngle, -1>, " Deposit angle must be >= -1"},
+    {Fumarolic,   Above<&P::depositAngle, 1>,  " Deposit angle must be <= 1"},
 };
 static_assert(std::size(Checks) == 40);
 // clang-format on

@@ -38,16 +38,15 @@ void ShowTectonics(RecordEdit& form, const PhaseRecord& phase) {
     }
 }
 
-void ShowFlows(RecordEdit& form, const PhaseRecord& phase, const FlowRow& flows) {
+void ShowFlows(RecordEdit& form, const PhaseRecord& phase) {
     for (int j = 1; j <= FlowsWithinTable(phase); ++j) {
         form.cmbFlow.AddItem(FlowEntry(j));
     }
-    form.cmbFlow.SetText(FlowEntry(1));
-    form.txtLava.SetText(form.TextOf(flows[1], Format::OneDecimal));
+    ShowFlow(form, 1);
 }
 
 // A flag of 1 runs the box's own handler, which enables Save.
-void ShowOptions(RecordEdit& form, const PhaseRecord& phase, const FlowRow& flows) {
+void ShowOptions(RecordEdit& form, const PhaseRecord& phase) {
     switch (phase.eruptionType) {
         case EruptionType::Tectonic: ShowTectonics(form, phase); break;
         case EruptionType::Vulcanian:
@@ -57,7 +56,7 @@ void ShowOptions(RecordEdit& form, const PhaseRecord& phase, const FlowRow& flow
         case EruptionType::Strombolian:
         case EruptionType::Plinian: form.chkCald.SetValue(phase.calderaFlag); break;
         case EruptionType::Hawaiian:
-        case EruptionType::Pelean: ShowFlows(form, phase, flows); break;
+        case EruptionType::Pelean: ShowFlows(form, phase); break;
         case EruptionType::Fumarolic: form.chkBurst.SetValue(phase.burstFlag); break;
         default: break;
     }
@@ -75,27 +74,27 @@ void ShowType(RecordEdit& form, Integer pha) {
     if (const TypeEntry* entry = EntryOf(phase)) {
         form.cmbType.SetText(entry->name);
         form.CurType = entry->eruptionType;
-        ShowOptions(form, phase, form.EditFlows[pha]);
+        ShowOptions(form, phase);
     }
 }
 
-double Value(const PhaseRecord& phase, const FieldMember& member) {
-    return std::visit([&phase](auto each) -> double { return phase.*each; }, member);
+Single Value(const PhaseRecord& phase, const FieldMember& member) {
+    return std::visit([&phase](auto each) { return static_cast<Single>(phase.*each); }, member);
 }
 
 // The box of a field that comes later may change what an earlier one stored, so each field is read
 // when its box is filled.
 void FillBoxes(RecordEdit& form, Integer pha) {
     for (const Field& field : Fields) {
-        const auto value = static_cast<Single>(Value(form.EditPhases[pha], field.member));
+        const Single value = Value(form.EditPhases[pha], field.member);
         (form.*field.box).SetText(form.TextOf(value, field.onShow));
     }
 }
 
 }  // namespace
 
-void ShowData(RecordEdit& form, const Integer& pha) {
-    WithErrorPath(form, "ShowData", [&form, &pha] {
+void ShowData(RecordEdit& form, Integer pha) {
+    WithErrorPath(form, "ShowData", [&form, pha] {
         ResetOptions(form);
         form.cmbFlow.Clear();
         form.txtLava.SetText("");

@@ -8,7 +8,7 @@ struct RecordEdit;
 /// Fills every control from phase `pha`, which must be `CurPhase`; 0 for no phase. The boxes store
 /// what they are given, so a phase on show holds what the form shows. A failure ends the display
 /// where it is, with a message.
-void ShowData(RecordEdit& form, const Integer& pha);
+void ShowData(RecordEdit& form, Integer pha);
 
 /// Shows the phase that the phase list names; the same phase again if it names none.
 void cmbPhase_Click(RecordEdit& form);

@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "editing/Entries.h"
+#include "rules/EruptionTypes.h"
 #include "rules/FlowDurations.h"
 
 namespace {
@@ -27,15 +28,14 @@ Single Limit(RecordEdit& form, const Field& field) {
     return value;
 }
 
-void StoreAboveZero(RecordEdit& form, const Field& field) {
-    TextBox& box = form.*field.box;
+// Brings a number above zero, and within 16 bits.
+void LiftAboveZero(RecordEdit& form, TextBox& box) {
     if (form.NumberIn(box) <= 0) {
         box.SetText("1");
     }
     if (!RoundToInteger(form.NumberIn(box))) {
         box.SetText(form.TextOf(std::numeric_limits<Integer>::max(), Format::Whole));
     }
-    Store(form, field);
 }
 
 // The list of flows anew, with a duration for each flow that has none, and flow 1 on show.
@@ -50,40 +50,51 @@ void BuildFlows(RecordEdit& form) {
             duration = NewFlowDuration(hawaiian, form.CurrentPhase().flowLength, i, form.random());
         }
     }
-    form.cmbFlow.SetText(FlowEntry(1));
-    form.txtLava.SetText(form.TextOf(form.CurrentFlows()[1], Format::OneDecimal));
+    ShowFlow(form, 1);
 }
+
+// Which strengths of an eruption leave a caldera, and what it is called then.
+struct CalderaRow {
+    Integer eruptionType;
+    Single weakest;
+    Single strongest;
+    std::string_view caption;
+};
+
+constexpr Single Any = std::numeric_limits<Single>::max();
+
+// clang-format off
+constexpr CalderaRow Calderas[] = {
+    {EruptionType::Vulcanian,   -Any, 0.4F, DiatremeCaption},
+    {EruptionType::Vulcanian,   0.6F, Any,  CalderaCaption},
+    {EruptionType::Strombolian, -Any, 0.3F, DiatremeCaption},
+    {EruptionType::Plinian,     0.5F, Any,  CalderaCaption},
+};
+// clang-format on
 
 }  // namespace
 
 void Field_Change(RecordEdit& form, const Field& field) {
-    if (field.rule.kind == Rule::Range) {
-        Limit(form, field);
+    switch (field.rule.kind) {
+        case Rule::Store: break;
+        case Rule::Range: Limit(form, field); break;
+        case Rule::AboveZero: LiftAboveZero(form, form.*field.box); break;
     }
     Store(form, field);
 }
 
 void txtStr_Change(RecordEdit& form) {
     PhaseRecord& phase = form.CurrentPhase();
-    const Single v = form.NumberIn(form.txtStr);
-    const auto allow = [&form](std::string_view caption) {
-        form.chkCald.SetEnabled(true);
-        form.chkCald.SetCaption(caption);
-    };
+    const Single strength = form.NumberIn(form.txtStr);
     form.chkCald.SetEnabled(false);
-    if (phase.eruptionType == EruptionType::Vulcanian && v <= 0.4F) {
-        allow("Diatreme");
+    for (const CalderaRow& row : Calderas) {
+        if (row.eruptionType == phase.eruptionType && strength >= row.weakest &&
+            strength <= row.strongest) {
+            form.chkCald.SetEnabled(true);
+            form.chkCald.SetCaption(row.caption);
+        }
     }
-    if (phase.eruptionType == EruptionType::Vulcanian && v >= 0.6F) {
-        allow("Caldera");
-    }
-    if (phase.eruptionType == EruptionType::Strombolian && v <= 0.3F) {
-        allow("Diatreme");
-    }
-    if (phase.eruptionType == EruptionType::Plinian && v >= 0.5F) {
-        allow("Caldera");
-    }
-    phase.strength = v;
+    phase.strength = strength;
 }
 
 void txtDip_Change(RecordEdit& form) {
@@ -93,10 +104,8 @@ void txtDip_Change(RecordEdit& form) {
     Store(form, field);
 }
 
-void txtErode_Change(RecordEdit& form) { StoreAboveZero(form, FieldOf(&RecordEdit::txtErode)); }
-
 void txtBurst_Change(RecordEdit& form) {
-    StoreAboveZero(form, FieldOf(&RecordEdit::txtBurst));
+    Field_Change(form, FieldOf(&RecordEdit::txtBurst));
     if (HasFlows(form.CurrentPhase())) {
         BuildFlows(form);
     }

@@ -7,10 +7,10 @@
 /// The Change handler of every box that does no more than its rule says.
 void Field_Change(RecordEdit& form, const Field& field);
 
-/// The boxes that do more: bounds of a caldera, of a down side, floors, and flows.
+/// The boxes that do more than their rule, or have none: the strength tells whether there can be a
+/// caldera, the dip whether there is a down side, the bursts how many flows there are.
 void txtStr_Change(RecordEdit& form);
 void txtDip_Change(RecordEdit& form);
-void txtErode_Change(RecordEdit& form);
 void txtBurst_Change(RecordEdit& form);
 void txtLava_Change(RecordEdit& form);
 

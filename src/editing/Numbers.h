@@ -20,11 +20,12 @@ struct Separators {
 /// number, so a shorter one counts. Takes any bytes and never fails.
 Single ParseLeadingNumber(std::string_view text, const Separators& separators);
 
+/// The first three are the numbers of their decimals.
 enum class Format {
-    Whole,        // "0": the nearest whole number, a tie away from zero
-    OneDecimal,   // "0.0"
-    TwoDecimals,  // "0.00"
-    Plain,        // as many decimals as the number has; reads back as the same Single
+    Whole = 0,        // "0": the nearest whole number, a tie away from zero
+    OneDecimal = 1,   // "0.0"
+    TwoDecimals = 2,  // "0.00"
+    Plain,            // as many decimals as the number has; reads back as the same Single
 };
 
 /// The text of a finite number with the locale's decimal separator, without thousands separators.

@@ -4,21 +4,13 @@
 #include "editing/Entries.h"
 #include "form/ErrorPath.h"
 #include "form/RecordEdit.h"
+#include "record/WorkingCopy.h"
 
 namespace {
 
 Integer NamedPhase(const RecordEdit& form) {
     const int named = FindPhase(form.cmbPhase.Text(), form.EditPhaseCount);
     return named != 0 ? static_cast<Integer>(named) : form.CurPhase;
-}
-
-void ShowCount(RecordEdit& form) { form.labPhases.SetCaption(std::to_string(form.EditPhaseCount)); }
-
-void EnableList(RecordEdit& form, bool enabled) {
-    form.cmbPhase.SetEnabled(enabled);
-    form.cmbType.SetEnabled(enabled);
-    form.cmdDelete.SetEnabled(enabled);
-    form.cmdReset.SetEnabled(enabled);
 }
 
 // Everything but the mapping fields, which keep what the element held.
@@ -41,13 +33,13 @@ void SetStartingValues(PhaseRecord& phase) {
 void RemoveFromList(RecordEdit& form) {
     --form.EditPhaseCount;
     form.cmbPhase.RemoveItem(form.cmbPhase.Entries().size() - 1);
-    ShowCount(form);
+    ShowPhaseCount(form, form.EditPhaseCount);
     if (form.EditPhaseCount == 0) {
         form.EditFlows.Clear();
         form.EditPhases.Clear();
         form.CurPhase = 0;
-        form.cmbPhase.SetText("Add Phase");
-        EnableList(form, false);
+        form.cmbPhase.SetText(NoPhaseText);
+        EnablePhaseList(form, false);
     }
 }
 
@@ -82,7 +74,8 @@ void OpenGap(RecordEdit& form) {
 
 void cmdAdd_Click(RecordEdit& form) {
     if (form.EditPhaseCount >= MaxPhases || NamedPhase(form) >= MaxPhases) {
-        form.ShowMessage("A record holds at most 500 phases.", MessageIcon::Information);
+        form.ShowMessage("A record holds at most " + std::to_string(MaxPhases) + " phases.",
+                         MessageIcon::Information);
         return;
     }
     form.CurPhase = NamedPhase(form);
@@ -90,8 +83,8 @@ void cmdAdd_Click(RecordEdit& form) {
     ++form.CurPhase;
     form.cmbPhase.SetText(PhaseEntry(form.CurPhase));
     form.cmbPhase.AddItem(PhaseEntry(form.EditPhaseCount));
-    ShowCount(form);
-    EnableList(form, true);
+    ShowPhaseCount(form, form.EditPhaseCount);
+    EnablePhaseList(form, true);
     form.Command2.SetEnabled(false);
     OpenGap(form);
     SetStartingValues(form.CurrentPhase());

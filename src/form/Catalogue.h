@@ -57,7 +57,7 @@ struct NamedText {
 /// The tool tips; a control that is not here has none.
 std::span<const NamedText> ToolTips();
 
-/// For each control that takes a value: the label that tells its name.
+/// The controls that a label stands beside; the text is the name of that label.
 std::span<const NamedText> LabelsOf();
 
 /// The names of the controls that have neither a label nor a caption to be called by.

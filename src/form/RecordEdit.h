@@ -14,8 +14,8 @@
 
 constexpr std::string_view ApplicationTitle = "TephrexEdit";
 
-/// The platform as the form sees it. All of it is in place before the form is loaded and outlives
-/// the form.
+/// The platform as the form sees it. All of it is in place before the form is loaded and stays
+/// until it is unloaded. The program's folder, which the help file is in, has no slash at its end.
 struct Services {
     MessageBoxes* messages = nullptr;
     FileDialogs* dialogs = nullptr;

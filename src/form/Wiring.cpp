@@ -61,7 +61,6 @@ void Wire(RecordEdit& form) {
     WireFields(form);
     form.txtStr.Change = to(txtStr_Change);  // these do more than their field's rule
     form.txtDip.Change = to(txtDip_Change);
-    form.txtErode.Change = to(txtErode_Change);
     form.txtBurst.Change = to(txtBurst_Change);
     form.txtLava.Change = to(txtLava_Change);
     form.txtLava.KeyPress = to(Field_KeyPress);

@@ -26,7 +26,8 @@ constexpr std::array<unsigned char, 256> Kinds = [] {
 
 }  // namespace
 
-ItemReader::ItemReader(std::streambuf& stream) : source(stream), buffer(LongestItem + 2 * Piece) {}
+// A piece more than the longest item that is waiting for its end.
+ItemReader::ItemReader(std::streambuf& stream) : source(stream), buffer(LongestItem + Piece) {}
 
 std::string_view ItemReader::Text() {
     std::string_view item = Next(Comma | LineEnd);

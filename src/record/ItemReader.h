@@ -24,6 +24,7 @@ constexpr std::size_t LongestItem = 65535;
 /// ReadError where there is no item to be had.
 class ItemReader {
 public:
+    /// The stream is to outlive the reader.
     explicit ItemReader(std::streambuf& stream);
 
     /// An item of any kind, as text; the view holds until the next item is read.

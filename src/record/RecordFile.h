@@ -28,5 +28,5 @@ bool WriteRecord(std::streambuf& target, const EditorState& state);
 
 /// Replaces the file from its first line on; true only when every byte has reached it and it is
 /// closed. A reference that could not be read back (a double quote in it, or longer than an item
-/// can be) fails before the file is touched.
+/// can be) fails before the file is touched; so does a pipe, which would wait for a reader.
 bool WriteRecordFile(const std::string& path, const EditorState& state);

@@ -1,6 +1,7 @@
 #include "record/WorkingCopy.h"
 
 #include <cstddef>
+#include <string_view>
 #include <vector>
 
 #include "display/ShowData.h"
@@ -10,25 +11,22 @@
 
 namespace {
 
-constexpr Integer NormalScale = 20;
-
 void ShowPaths(RecordEdit& form) {
     form.labRecfile.SetCaption(form.RecFile.empty() ? std::string(NewRecordCaption)
-                                                    : ShortenPath(form.DisplayPath(form.RecFile)));
+                                                    : ShownPath(form, form.RecFile));
     form.txtTopFile.SetText(form.StratFile.empty() ? std::string(NoFileText)
-                                                   : ShortenPath(form.DisplayPath(form.StratFile)));
+                                                   : ShownPath(form, form.StratFile));
 }
 
 // A code of no option leaves the selection where it is.
 void SelectScale(RecordEdit& form) {
+    if (form.RecordScale == Scale::NotSet) {
+        form.RecordScale = Scale::Normal;
+    }
     switch (form.RecordScale) {
-        case 100: form.optLarge.SetValue(true); break;
-        case 20: form.optNormal.SetValue(true); break;
-        case 4: form.optSmall.SetValue(true); break;
-        case 0:
-            form.RecordScale = NormalScale;
-            form.optNormal.SetValue(true);
-            break;
+        case Scale::Large: form.optLarge.SetValue(true); break;
+        case Scale::Normal: form.optNormal.SetValue(true); break;
+        case Scale::Small: form.optSmall.SetValue(true); break;
         default: break;
     }
 }
@@ -39,11 +37,8 @@ void ListPhases(RecordEdit& form) {
         form.cmbPhase.AddItem(PhaseEntry(i));
     }
     const bool any = form.LoadedPhaseCount >= 1;
-    form.cmbPhase.SetText(any ? PhaseEntry(1) : "Add Phase");
-    form.cmbPhase.SetEnabled(any);
-    form.cmbType.SetEnabled(any);
-    form.cmdDelete.SetEnabled(any);
-    form.cmdReset.SetEnabled(any);
+    form.cmbPhase.SetText(any ? PhaseEntry(1) : std::string(NoPhaseText));
+    EnablePhaseList(form, any);
 }
 
 void CopyPhases(RecordEdit& form) {
@@ -85,7 +80,7 @@ void ReadData(RecordEdit& form) {
         form.EditPhases.Clear();
         form.EditPhaseCount = 0;  // until the copy below no scale option can enable Save
         ShowPaths(form);
-        form.labPhases.SetCaption(std::to_string(form.LoadedPhaseCount));
+        ShowPhaseCount(form, form.LoadedPhaseCount);
         SelectScale(form);
         ListPhases(form);
         CopyPhases(form);
@@ -99,10 +94,25 @@ void cmdReset_Click(RecordEdit& form) {
     if (form.labRecfile.Caption() == NewRecordCaption) {
         form.LoadedPhaseCount = 0;
         form.StratFile.clear();
-        form.RecordScale = 0;
+        form.RecordScale = Scale::NotSet;
     }
     ReadData(form);
     form.Command2.SetEnabled(false);
+}
+
+void ShowPhaseCount(RecordEdit& form, int count) {
+    form.labPhases.SetCaption(std::to_string(count));
+}
+
+void EnablePhaseList(RecordEdit& form, bool enabled) {
+    form.cmbPhase.SetEnabled(enabled);
+    form.cmbType.SetEnabled(enabled);
+    form.cmdDelete.SetEnabled(enabled);
+    form.cmdReset.SetEnabled(enabled);
+}
+
+std::string ShownPath(const RecordEdit& form, const std::string& path) {
+    return ShortenPath(form.DisplayPath(path));
 }
 
 std::string ShortenPath(const std::string& text) {

@@ -1,13 +1,9 @@
-// The working copy: rebuilding it from the loaded copy, and how a path is shown in a narrow field.
+// The working copy: rebuilding it from the loaded copy, and how what belongs to all of it is shown.
 #pragma once
 
 #include <string>
-#include <string_view>
 
 struct RecordEdit;
-
-constexpr std::string_view NewRecordCaption = "(New)";  // the record has no file yet
-constexpr std::string_view NoFileText = "(None)";       // no stratigraphic file is attached
 
 /// Throws the working copy away, rebuilds it from the loaded copy and shows its first phase. A
 /// failure ends it where it is, with a message.
@@ -15,6 +11,13 @@ void ReadData(RecordEdit& form);
 
 /// Drops all changes since the last apply; a record without a file becomes empty.
 void cmdReset_Click(RecordEdit& form);
+
+/// The number of phases on show, and whether the form offers phases to choose, edit and delete.
+void ShowPhaseCount(RecordEdit& form, int count);
+void EnablePhaseList(RecordEdit& form, bool enabled);
+
+/// The text under which a path is shown on the form, shortened.
+std::string ShownPath(const RecordEdit& form, const std::string& path);
 
 /// A text of more than 40 characters as "..." and its last 37; any other as it is. Counts code
 /// points and never cuts one; a byte that is not UTF-8 counts as one.

@@ -88,13 +88,13 @@ void RuleA(RecordEdit& form) { form.cmbDown.SetEnabled(form.CurrentPhase().fault
 void RuleB(RecordEdit& form) {
     const Single strength = form.NumberIn(form.txtStr);
     if (strength >= 0.6F) {
-        form.chkCald.SetCaption("Caldera");
+        form.chkCald.SetCaption(CalderaCaption);
         if (form.chkCald.Value() == 1) {
             OpenCaldera(form);
         }
     }
     if (strength <= 0.3F) {
-        form.chkCald.SetCaption("Diatreme");
+        form.chkCald.SetCaption(DiatremeCaption);
     }
 }
 
@@ -102,7 +102,7 @@ void RuleB(RecordEdit& form) {
 void RuleC(RecordEdit& form) {
     if (form.CurrentPhase().strength < 0.3F) {
         form.chkCald.SetEnabled(true);
-        form.chkCald.SetCaption("Diatreme");
+        form.chkCald.SetCaption(DiatremeCaption);
     }
 }
 
@@ -115,7 +115,7 @@ void RuleD(RecordEdit& form) {
 
 // Type 7: bursts have a frequency and a crater.
 void RuleE(RecordEdit& form) {
-    form.labSlide4.SetCaption("Burst Frequency");
+    form.labSlide4.SetCaption(FrequencyCaption);
     EnableBurstFields(form, form.chkBurst.Value() == 1);
 }
 
@@ -156,14 +156,14 @@ void EnableBurstFields(RecordEdit& form, bool enabled) {
 void OpenCaldera(RecordEdit& form) {
     form.cmbStyle.SetEnabled(true);
     form.cmbStyle.SetText(StyleEntry(form.CurrentPhase().calderaStyle, form.cmbStyle.Text()));
-    form.labSlide4.SetCaption("Vent Position");
+    form.labSlide4.SetCaption(VentCaption);
     form.labSlide4.SetEnabled(true);
     form.txtSlide4.SetEnabled(true);
 }
 
 void DataActivate(RecordEdit& form, Integer etype) {
     WithErrorPath(form, "DataActivate", [&form, etype] {
-        form.chkCald.SetCaption("Caldera");
+        form.chkCald.SetCaption(CalderaCaption);
         const std::size_t column = ColumnOf(etype, form.CurrentPhase().tectonicKind);
         ApplyColumn(form, column);
         for (const LetterRule& rule : Rules) {

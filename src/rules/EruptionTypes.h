@@ -43,6 +43,12 @@ constexpr std::string_view LeftEntry = "Left side down";
 constexpr std::string_view RightEntry = "Right side down";
 constexpr std::string_view NoSideText = "Down Side";
 
+/// What a caldera is called by the strength of its eruption, and what the fourth slider is by type.
+constexpr std::string_view CalderaCaption = "Caldera";
+constexpr std::string_view DiatremeCaption = "Diatreme";
+constexpr std::string_view VentCaption = "Vent Position";
+constexpr std::string_view FrequencyCaption = "Burst Frequency";
+
 /// The entry of a caldera style or a down side; `otherwise` for a code that has none.
 std::string_view StyleEntry(Integer calderaStyle, std::string_view otherwise);
 std::string_view SideEntry(Integer faultDownSide, std::string_view otherwise);

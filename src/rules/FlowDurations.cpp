@@ -9,6 +9,9 @@ namespace {
 
 constexpr int NeutralFlowLength = 6;  // leaves a duration as it is; each step is a tenth of it
 
+// The longest duration of a flow of neutral length.
+int NeutralCeiling(bool hawaiian, int flow) { return hawaiian ? 1200 : 200 + 10 * flow; }
+
 // The simulator works these ceilings out in 16 bits, and so do we: no number wraps.
 int Fit16(int value) {
     if (value < std::numeric_limits<Integer>::min() ||
@@ -21,11 +24,12 @@ int Fit16(int value) {
 Single ShortestFlow(bool hawaiian) { return hawaiian ? 20.0F : 10.0F; }
 
 double LongestFlow(const PhaseRecord& phase, int flow) {
+    const bool hawaiian = phase.eruptionType == EruptionType::Hawaiian;
+    const int neutral = NeutralCeiling(hawaiian, flow);
     const int steps = Fit16(phase.flowLength - NeutralFlowLength);
-    if (phase.eruptionType == EruptionType::Hawaiian) {
-        return Fit16(1200 + Fit16(120 * steps));
+    if (hawaiian) {
+        return Fit16(neutral + Fit16(neutral / 10 * steps));
     }
-    const int neutral = 200 + 10 * flow;
     return neutral + Fit16(steps * neutral) / 10.0;
 }
 
@@ -53,7 +57,7 @@ std::optional<BadFlow> FirstBadFlow(const PhaseRecord& phase, const FlowRow& flo
 
 Single NewFlowDuration(bool hawaiian, Integer flowLength, int flow, Single r) {
     const double steps = flowLength - NeutralFlowLength;
-    const double span = hawaiian ? 1200.0 : 200.0 + 10.0 * flow;
+    const double span = NeutralCeiling(hawaiian, flow);
     const auto raw = static_cast<Single>(static_cast<double>(r) * span);
     const auto drawn = static_cast<double>(raw);
     const auto scaled = static_cast<Single>(steps * drawn / 10.0 + drawn);

@@ -25,7 +25,7 @@ void chkBurst_Click(RecordEdit& form) {
     Choose(form, [&form](PhaseRecord& phase) {
         phase.burstFlag = Flag(form.chkBurst);
         if (phase.burstFlag == 1) {
-            form.labSlide4.SetCaption("Burst Frequency");
+            form.labSlide4.SetCaption(FrequencyCaption);
         }
         EnableBurstFields(form, phase.burstFlag == 1);
     });

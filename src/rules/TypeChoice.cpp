@@ -1,6 +1,7 @@
 #include "rules/TypeChoice.h"
 
 #include "display/ShowData.h"
+#include "editing/Fields.h"
 #include "form/RecordEdit.h"
 #include "rules/EruptionTypes.h"
 #include "rules/FlowDurations.h"
@@ -18,13 +19,11 @@ void TakeType(RecordEdit& form) {
 
 // Each box stores its field; those of the mass flux and the bursts turn 0 into 1.
 void ResetEruption(RecordEdit& form) {
-    form.txtLoc.SetText(form.TextOf(0, Format::TwoDecimals));
-    form.txtStr.SetText(form.TextOf(0, Format::TwoDecimals));
-    form.txtWind.SetText(form.TextOf(0, Format::Whole));
-    form.txtPart.SetText(form.TextOf(0, Format::Whole));
-    form.txtBurst.SetText(form.TextOf(0, Format::Whole));
-    form.txtCbase.SetText(form.TextOf(0, Format::TwoDecimals));
-    form.txtCtop.SetText(form.TextOf(0, Format::TwoDecimals));
+    using E = RecordEdit;
+    for (TextBox E::*const box : {&E::txtLoc, &E::txtStr, &E::txtWind, &E::txtPart, &E::txtBurst,
+                                  &E::txtCbase, &E::txtCtop}) {
+        (form.*box).SetText(form.TextOf(0, FieldOf(box).onShow));
+    }
 }
 
 // A phase that has its loaded type again gets its loaded durations back; any other gets new ones.

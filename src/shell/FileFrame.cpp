@@ -22,8 +22,9 @@ void ChooseScale(RecordEdit& form, Integer scale) {
 }
 
 bool IsNone(std::string text) {
-    std::transform(text.begin(), text.end(), text.begin(),
-                   [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; });
+    std::transform(text.begin(), text.end(), text.begin(), [](char c) {
+        return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+    });
     return text == "none";
 }
 
@@ -47,7 +48,7 @@ void cmdChange_Click(RecordEdit& form) {
         return;
     }
     form.EditStratFile = form.CD1.FileName;
-    form.txtTopFile.SetText(ShortenPath(form.DisplayPath(form.EditStratFile)));
+    form.txtTopFile.SetText(ShownPath(form, form.EditStratFile));
     form.EditStratFile = form.CD1.FileName;  // the box has just stored the text on show
     MarkChangedIfPhases(form);
 }
@@ -73,9 +74,9 @@ void labRecfile_MouseMove(RecordEdit& form) {
                                        : "Currently opened recorder file");
 }
 
-void optLarge_Click(RecordEdit& form) { ChooseScale(form, 100); }
-void optNormal_Click(RecordEdit& form) { ChooseScale(form, 20); }
-void optSmall_Click(RecordEdit& form) { ChooseScale(form, 4); }
+void optLarge_Click(RecordEdit& form) { ChooseScale(form, Scale::Large); }
+void optNormal_Click(RecordEdit& form) { ChooseScale(form, Scale::Normal); }
+void optSmall_Click(RecordEdit& form) { ChooseScale(form, Scale::Small); }
 
 void cmdHelp_Click(RecordEdit& form) {
     form.CD1.HelpContext = EditorTopic;

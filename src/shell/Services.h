@@ -9,7 +9,8 @@ class CommonDialog;
 
 enum class MessageIcon { Information, Exclamation, Stop };
 
-/// Shows a modal message with an OK button and returns when the user has closed it.
+/// Shows a modal message with an OK button and returns when the user has closed it. Lines of the
+/// text end in CR LF.
 class MessageBoxes {
 public:
     virtual ~MessageBoxes() = default;
@@ -33,7 +34,8 @@ public:
     virtual void ShowHelp(const CommonDialog& dialog) = 0;
 };
 
-/// Named texts in sections, filled by the simulator's installation and only read here.
+/// Named texts in sections, filled by the simulator's installation and only read here. What is not
+/// there reads as `fallback`.
 class SettingsStore {
 public:
     virtual ~SettingsStore() = default;

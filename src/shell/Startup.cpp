@@ -9,13 +9,13 @@
 
 namespace {
 
-// A step of the start that fails is skipped, and the next one runs.
+// What the platform fails to give is skipped, and the next step runs.
 template <class Step>
 void Try(Step step) {
     try {
         step();
     } catch (const std::exception&) {
-        // An editor without its settings or tips is still an editor.
+        // An editor without its settings, or in another place, is still an editor.
     }
 }
 

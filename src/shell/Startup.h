@@ -3,6 +3,6 @@
 
 struct RecordEdit;
 
-/// Brings the form up on a new, empty record. No file is opened. A step that fails is skipped
-/// without a word.
+/// Brings the form up on a new, empty record. No file is opened. What the platform fails to
+/// give is done without, and nothing is told.
 void Form_Load(RecordEdit& form);
