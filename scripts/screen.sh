@@ -6,8 +6,9 @@ mkdir -p "$pictures"
 home=$(mktemp -d)
 trap 'kill $(jobs -p) 2>/dev/null || true; rm -rf "$home"' EXIT
 
-# The server picks a free number by itself, so walks can go on side by side.
-Xvfb -displayfd 3 -screen 0 "${TEPHREX_SCREEN:-1600x1200x24}" 3>"$home/display" 2>/dev/null &
+# The server picks a free number by itself, so walks can go on side by side. It must not start anew
+# when its last client goes: another one that is just coming in, such as openbox, would be thrown out.
+Xvfb -noreset -displayfd 3 -screen 0 "${TEPHREX_SCREEN:-1600x1200x24}" 3>"$home/display" 2>/dev/null &
 for _ in $(seq 200); do
     [ -s "$home/display" ] && break
     sleep 0.05
