@@ -35,8 +35,10 @@ std::vector<Picture*> InTabOrder(const Pictures& pictures) {
 }  // namespace
 
 QIcon FormIcon() {
-    QIcon icon(":/window/form-16.xpm");
-    icon.addFile(":/window/form-32.xpm");
+    QIcon icon;
+    for (const char* const size : {"16.xpm", "24.png", "32.xpm", "48.png", "64.png"}) {
+        icon.addFile(QString(":/window/form-") + size);
+    }
     return icon;
 }
 

@@ -127,8 +127,10 @@ public:
     explicit CommandButtonPicture(const Subject& subject) : PictureOf(subject) {
         widget.setAutoDefault(true);  // Enter presses the button that has the focus
         if (Row().look == Look::HiddenAtStart) {
-            QIcon icon(":/window/open-16.xpm");
-            icon.addFile(":/window/open-32.xpm");
+            QIcon icon;
+            for (const int size : {16, 20, 24, 32}) {
+                icon.addFile(QString(":/window/open-%1.xpm").arg(size), {size, size});
+            }
             widget.setIcon(icon);
         }
         connect(&widget, &QPushButton::clicked, this,
