@@ -87,6 +87,9 @@ void FormWindow::MakePictures() {
 void FormWindow::PlacePictures() {
     for (const auto& picture : pictures) {
         const CatalogueRow& row = picture->Row();
+        if (const int covered = CoveredWidth(row); covered > 0) {
+            picture->Widget().setContentsMargins(0, 0, Pixels(covered), 0);
+        }
         picture->Widget().setGeometry(Pixels(row.left), Pixels(row.top), Pixels(row.width),
                                       Pixels(row.height));
     }

@@ -84,6 +84,11 @@ void ListBox::PickIfSelectedFromAfar() {
     }
 }
 
+void ListBox::initStyleOption(QStyleOptionComboBox* option) const {
+    QComboBox::initStyleOption(option);
+    option->rect = contentsRect();
+}
+
 void ListBox::keyPressEvent(QKeyEvent* event) {
     justClosed = false;
     if (MovesInList(event->key())) {

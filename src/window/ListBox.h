@@ -1,5 +1,5 @@
 // A drop-down list with an editable box, in which only an entry chosen in the open list is a
-// pick. It knows no control.
+// pick. It knows no control, and keeps its arrow within its contents margins.
 #pragma once
 
 #include <QComboBox>
@@ -26,6 +26,7 @@ signals:
     void Picked(int position);
 
 protected:
+    void initStyleOption(QStyleOptionComboBox* option) const override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;

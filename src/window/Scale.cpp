@@ -30,7 +30,7 @@ constexpr NamedText LaterTexts[]{
     {"txtLoc", "123.00"},
     {"txtStr", "2.00"},
     {"txtWind", "-50.00"},
-    {"txtPart", "49.99"},
+    {"txtPart", "49.99999"},
     {"txtBurst", "32767"},
     {"txtCtop", "123.00"},
     {"txtCbase", "123.00"},
@@ -61,7 +61,23 @@ int Headroom(const CatalogueRow& row) {
     return room;
 }
 
+bool Covers(const CatalogueRow& upper, const CatalogueRow& lower) {
+    return upper.frame == lower.frame && upper.tab > lower.tab && upper.kind != Kind::Label &&
+           upper.left > lower.left && upper.left < lower.left + lower.width &&
+           upper.top < lower.top + lower.height && lower.top < upper.top + upper.height;
+}
+
 }  // namespace
+
+int CoveredWidth(const CatalogueRow& row) {
+    int covered = 0;
+    for (const CatalogueRow& other : Catalogue()) {
+        if (row.kind != Kind::Label && Covers(other, row)) {
+            covered = std::max(covered, row.left + row.width - other.left);
+        }
+    }
+    return covered;
+}
 
 QStringList TextsToFit(const CatalogueRow& row) {
     QStringList texts{ToScreen(row.caption)};
@@ -77,10 +93,11 @@ double FittingScale(const Pictures& pictures) {
     double scale = UsualScale;
     for (const auto& picture : pictures) {
         const CatalogueRow& row = picture->Row();
+        const double width = row.width - CoveredWidth(row);
+        const double height = Headroom(row);
         for (const QString& text : TextsToFit(row)) {
             const QSize size = picture->SizeWith(text);
-            scale = std::max(
-                {scale, 1.0 * size.width() / row.width, 1.0 * size.height() / Headroom(row)});
+            scale = std::max({scale, size.width() / width, size.height() / height});
         }
     }
     return scale;

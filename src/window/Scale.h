@@ -18,3 +18,6 @@ double FittingScale(const Pictures& pictures);
 /// The texts that a control shows at its start and later, or the widest of them. Paths, of any
 /// length, are not among them.
 QStringList TextsToFit(const CatalogueRow& row);
+
+/// How much of a control's right end lies beneath its neighbours, in twips.
+int CoveredWidth(const CatalogueRow& row);
