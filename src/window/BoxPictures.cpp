@@ -17,8 +17,11 @@ TextBoxPicture::TextBoxPicture(const Subject& subject) : PictureOf(subject) {
     widget.setAlignment(Qt::AlignCenter);
     connect(&widget, &LineBox::KeyPressed, this, [this] { TakeText(By::Key); });
     connect(&widget, &LineBox::Edited, this, [this] { TakeText(By::OtherMeans); });
-    connect(&widget, &LineBox::SelectionMoved, this,
-            [this] { UserActs([this] { TakeSelection(); }); });
+    connect(&widget, &LineBox::SelectionMoved, this, [this] {
+        if (ShowsText()) {  // or the edit of which this is a part is told in a moment
+            UserActs([this] { TakeSelection(); });
+        }
+    });
 }
 
 void TextBoxPicture::Update() {

@@ -7,7 +7,7 @@ TEST_F(WindowTest, KeysOfTheFormDoWhatIsEnabledAndPressNoKeyInABox) {
         QKeyCombination key;
         Control& control;
         Event& event;
-        int times = 1;
+        int times = 1, phase = 1;
     };
     const Row rows[]{
         {Qt::CTRL | Qt::Key_O, form.cmdOpen, form.cmdOpen.Click},
@@ -15,10 +15,13 @@ TEST_F(WindowTest, KeysOfTheFormDoWhatIsEnabledAndPressNoKeyInABox) {
         {Qt::Key_F1, form.cmdHelp, form.cmdHelp.Click},
         {Qt::CTRL | Qt::Key_PageUp, form.cmbPhase, form.cmbPhase.Click, 0},
         {Qt::CTRL | Qt::Key_PageDown, form.cmbPhase, form.cmbPhase.Click},
+        {Qt::CTRL | Qt::Key_PageUp, form.cmbPhase, form.cmbPhase.Click, 1, 2},
+        {Qt::CTRL | Qt::Key_PageDown, form.cmbPhase, form.cmbPhase.Click, 0, 2},
         {Qt::CTRL | Qt::Key_W, form.labLoc, form.Unload},
     };
     for (const Row& row : rows) {
         int times = 0;
+        form.CurPhase = static_cast<Integer>(row.phase);
         row.event = [&times] { ++times; };
         for (const bool enabled : {true, false}) {
             form.Command2.SetEnabled(false);
@@ -79,22 +82,22 @@ TEST_F(WindowTest, ANameGetsItsExtensionAndNoFileIsReplacedUnasked) {
     std::filesystem::create_directories(deep);
     WriteBytes(folder / "there.rec", "");
     FileChooser chooser(window);
-    form.CD1.FileName = "";
+    form.CD1.InitDir = folder / "";
     form.CD1.DefaultExt = "rec";
     form.CD1.Flags = CommonDialog::AskBeforeReplacing;
-    const std::pair<std::string, std::string> rows[]{
-        {folder / "a.txt", folder / "a.txt"},
-        {folder / "there", folder / "there.rec"},
-        {deep + "a name é", deep + "a name é.rec"},
-        {"next", deep + "next.rec"},  // where the user last was
+    const std::string rows[][3]{
+        {"", "there", folder / "there.rec"},
+        {"", folder / "a.txt", folder / "a.txt"},
+        {deep + "a name é.rec", "", deep + "a name é.rec"},
+        {"", "next", deep + "next.rec"},  // where the user last was
     };
-    for (const auto& [typed, saved] : rows) {
+    for (const auto& [offered, typed, saved] : rows) {
         bool asked = false;
         QTimer::singleShot(0, &window, [&, name = typed] {
             auto* const box = QApplication::activeModalWidget()->findChild<QLineEdit*>();
             EXPECT_TRUE(QTest::qWaitForWindowActive(box->window()));
             box->setFocus();  // without it the file that was offered stays the chosen one
-            box->setText(QString::fromStdString(name));
+            if (!name.empty()) box->setText(QString::fromStdString(name));
             QTimer::singleShot(0, &window, [&] {
                 if (auto* const question = window.findChild<QMessageBox*>()) {
                     asked = true;
@@ -103,8 +106,9 @@ TEST_F(WindowTest, ANameGetsItsExtensionAndNoFileIsReplacedUnasked) {
             });
             keyClick(box, Qt::Key_Return);
         });
+        form.CD1.FileName = offered;
         EXPECT_TRUE(chooser.AskSave(form.CD1));
         EXPECT_EQ(form.CD1.FileName, saved);
-        EXPECT_EQ(asked, typed == folder / "there") << typed;
+        EXPECT_EQ(asked, typed == "there") << typed;
     }
 }
