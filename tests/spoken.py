@@ -60,7 +60,7 @@ soon({name: role for role, names in FOCUSABLE.items() for name in names.split("|
 heard = []
 pyatspi.Registry.registerEventListener(
     lambda event: heard.append((event.source.getRoleName(), event.source.name)),
-    "object:property-change")
+    "object:property-change:accessible-name", "window:activate")
 strength = found["Strength"]
 soon("Edit the eruption strength", lambda: strength.description)
 soon(["8.50", "Faulting"], lambda: [text(found[name]) for name in ("Vent location", "Eruption Type")])
@@ -76,4 +76,8 @@ soon([True], lambda: states(pyatspi.STATE_FOCUSED, "Strength"))
 subprocess.run(["xdotool", "type", "--delay", "20", "1.25"], check=True)
 soon("1.25", lambda: text(strength))
 choose_type("Fumarolic/Phreatic")
-soon(True, lambda: ("text", "Burst Frequency") in heard)
+subprocess.run(["xdotool", "key", "ctrl+s"], check=True)
+for news in ("text", "Burst Frequency"), ("label", "Phase 1 Maximum Fumarolic strength exceeded."), \
+        ("alert", "TephrexEdit"):
+    soon(True, lambda: news in heard)
+subprocess.run(["xdotool", "key", "Return"], check=True)
