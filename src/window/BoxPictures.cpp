@@ -75,8 +75,12 @@ void TextBoxPicture::ShowSelection() {
 }
 
 ComboBoxPicture::ComboBoxPicture(const Subject& subject) : PictureOf(subject) {
-    widget.setPalette(PalePalette(widget.palette(), PaleYellow));
-    widget.view()->setPalette(widget.palette());
+    QPalette pale = PalePalette(widget.palette(), PaleYellow);
+    widget.setPalette(pale);  // the frame shows the focus in the desktop's colour
+    pale.setColor(QPalette::Highlight, QColor(0, 84, 147));
+    pale.setColor(QPalette::HighlightedText, Qt::white);
+    widget.view()->setPalette(pale);
+    widget.lineEdit()->setPalette(pale);
     if (Row().look == Look::OwnPointer) {
         const QCursor hand(QPixmap(":/window/down-32.xpm"), 12, 1);
         widget.setCursor(hand);

@@ -41,7 +41,5 @@ QPalette PalePalette(QPalette palette, QColor back) {
         palette.setColor(role, Qt::black);
         palette.setColor(QPalette::Disabled, role, greyed);
     }
-    palette.setColor(QPalette::Highlight, QColor(0, 84, 147));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
     return palette;
 }

@@ -30,7 +30,6 @@ TEST_F(WindowTest, KeysOfTheFormDoWhatIsEnabledAndPressNoKeyInABox) {
         }
         EXPECT_EQ(times, row.times) << "row " << &row - rows;
         EXPECT_FALSE(form.Command2.Enabled());
-        row.control.SetEnabled(true);
     }
 }
 
@@ -55,7 +54,8 @@ TEST_F(WindowTest, ColouredFieldsAreReadableInLightAndDark) {
             };
             expect(QPalette::Text, QPalette::Base);
             expect(QPalette::WindowText, QPalette::Window);
-            expect(QPalette::HighlightedText, QPalette::Highlight);
+            if (field->focusPolicy() != Qt::NoFocus)
+                expect(QPalette::HighlightedText, QPalette::Highlight);
         }
     }
 }
