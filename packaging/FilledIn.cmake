@@ -20,7 +20,7 @@ endfunction()
 full(datadir "${CMAKE_INSTALL_DATADIR}")
 full(mandir "${CMAKE_INSTALL_MANDIR}")
 full(sysconfdir "${CMAKE_INSTALL_SYSCONFDIR}")
-full(libdir lib)
+full(programdir "${TEPHREX_PROGRAM_DIR}")
 
 set(filled "${TEPHREX_FILLED_IN}")
 configure_file("${TEPHREX_SOURCE}/data/desktop/Tephrex3.ini.in" "${filled}/Tephrex3.ini" @ONLY)

@@ -14,7 +14,7 @@ is_installed() {
 
 # install_missing PACKAGE...: asks the package manager only for what is not there yet.
 install_missing() {
-    local missing=()
+    local package missing=()
     for package in "$@"; do
         is_installed "$package" || missing+=("$package")
     done

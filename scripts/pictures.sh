@@ -20,13 +20,13 @@ show_phase() {
 }
 
 records=/tmp/records # the path on show is to be the same on every machine
-mkdir -p docs "$records"
+mkdir -p docs
+mkdir "$records" || fail "$records is somebody's"
+leftovers+=("$records")
 cp data/TephrexDemo.rec "$records"
 start_editor "$1" "$records/"
 press Open
 answer_dialog "Open Record File" "$records/TephrexDemo.rec"
-rm "$records/TephrexDemo.rec"
-rmdir --ignore-fail-on-non-empty "$records"
 show_phase 6
 shot eruption "$form"
 keys ctrl+Prior ctrl+Prior ctrl+Prior ctrl+Prior

@@ -6,6 +6,7 @@ install_missing "${build_packages[@]}"
 cmake --preset default -DBUILD_TESTING=OFF >/dev/null
 cmake --build --preset default -j "$(nproc)" --target tephrexedit
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
+    if [ -n "${WAYLAND_DISPLAY:-}" ]; then install_missing qt6-wayland; fi
     exec build/default/tephrexedit
 fi
 echo "There is no display: the editor runs on a virtual one."

@@ -4,7 +4,8 @@
 pictures=${TEPHREX_PICTURES:-$PWD/build/pictures}
 mkdir -p "$pictures"
 home=$(mktemp -d)
-trap 'kill $(jobs -p) 2>/dev/null || true; rm -rf "$home"' EXIT
+leftovers=("$home")
+trap 'kill $(jobs -p) 2>/dev/null || true; rm -rf "${leftovers[@]}"' EXIT
 
 # The server picks a free number by itself, so walks can go on side by side. It must not start anew
 # when its last client goes: another one that is just coming in, such as openbox, would be thrown out.
@@ -13,6 +14,7 @@ for _ in $(seq 200); do
     [ -s "$home/display" ] && break
     sleep 0.05
 done
+[ -s "$home/display" ] || { echo "walk: no virtual screen comes up" >&2 && exit 1; }
 DISPLAY=:$(cat "$home/display")
 export DISPLAY
 unset WAYLAND_DISPLAY
@@ -113,5 +115,6 @@ answer_dialog() {
 
 close_editor() {
     press Close
-    wait_until test ! -e "/proc/$editor"
+    wait_until no_window_named "Edit Tephrex Record"
+    wait "$editor" || fail "the editor ended with $?"
 }

@@ -5,6 +5,6 @@
 
 install_missing "${build_packages[@]}" "${screen_packages[@]}" libgtest-dev \
     at-spi2-core dbus-daemon python3-pyatspi
-cmake --preset default -DBUILD_TESTING=ON "$@"
+cmake --preset default "$@"
 cmake --build --preset default -j "$(nproc)"
 ctest --preset default -j "$(nproc)"
