@@ -5,6 +5,7 @@
 #include <chrono>
 #include <cstdio>
 #include <ctime>
+#include <exception>
 #include <string>
 #include <vector>
 
@@ -83,8 +84,13 @@ void Compare(benchmark::State& state, Goal goal, const Turn& reference, const Tu
     using Clock = std::chrono::steady_clock;
     for ([[maybe_unused]] auto turn : state) {
         const Clock::time_point start = Clock::now();
-        references.push_back(reference());
-        own.push_back(ours());
+        try {
+            references.push_back(reference());
+            own.push_back(ours());
+        } catch (const std::exception& failure) {
+            state.SkipWithError(failure.what());
+            return;
+        }
         results.push_back(memory ? own.back() - references.back() : own.back() / references.back());
         // What is prepared before a work counts for the length of the run, but for nothing else.
         state.SetIterationTime(std::chrono::duration<double>(Clock::now() - start).count());

@@ -1,7 +1,6 @@
 // The figures of the core: everything that the editor does but the window.
 
 #include <cstring>
-#include <fstream>
 
 #include "Compare.h"
 #include "Plain.h"

@@ -18,15 +18,20 @@ cmake --build build/bench -j "$(nproc)" >/dev/null
 home=$(mktemp -d)
 trap 'rm -rf "$home"' EXIT
 export HOME=$home XDG_CONFIG_HOME=$home XDG_RUNTIME_DIR=$home LC_ALL=C.UTF-8
-[ -w /dev/shm ] && export TMPDIR=/dev/shm
+if [ -w /dev/shm ]; then
+    TMPDIR=$(mktemp -d -p /dev/shm)
+    export TMPDIR
+    trap 'rm -rf "$home" "$TMPDIR"' EXIT
+fi
 
+failed=0
 figures=build/bench/figures.txt
 bench=build/bench/bench
 {
-    "$bench/core_bench" --benchmark_min_time=$core
-    QT_QPA_PLATFORM=offscreen "$bench/window_bench" --benchmark_min_time=$window
+    "$bench/core_bench" --benchmark_min_time=$core || failed=1
+    QT_QPA_PLATFORM=offscreen "$bench/window_bench" --benchmark_min_time=$window || failed=1
     xvfb-run -a -s "-screen 0 1600x1200x24 -noreset" \
-        "$bench/start_bench" --benchmark_min_time=$start
+        "$bench/start_bench" --benchmark_min_time=$start || failed=1
 } >"$figures"
 
 awk -F '\t' '
@@ -35,3 +40,4 @@ awk -F '\t' '
     function print_row(figure, ours, reference, ratio, goal, met) {
         printf "%-42s %10s %10s %8s  %-17s  %s\n", figure, ours, reference, ratio, goal, met
     }' "$figures"
+exit "$failed"

@@ -3,8 +3,8 @@
 #include <QFile>
 #include <QRegularExpression>
 #include <QShortcut>
-#include <QTextDocument>
 #include <QTextTable>
+#include <utility>
 
 #include "form/Controls.h"
 
@@ -83,11 +83,12 @@ void HelpWindow::ShowTopic(const CommonDialog& dialog) {
     if (viewer == nullptr) {
         viewer = NewViewer();
     }
-    // A document that is not on show yet is filled much faster; the viewer deletes the last one.
-    auto* const document = new QTextDocument(viewer.get());
-    document->setDocumentMargin(12);
-    Fill(*document, dialog);
-    viewer->setDocument(document);
+    // A document that is not on show yet is filled much faster.
+    auto next = std::make_unique<QTextDocument>();
+    next->setDocumentMargin(12);
+    Fill(*next, dialog);
+    viewer->setDocument(next.get());
+    document = std::move(next);
     viewer->show();
     viewer->raise();
     viewer->activateWindow();

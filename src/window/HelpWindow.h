@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QTextBrowser>
+#include <QTextDocument>
 #include <memory>
 
 #include "shell/Services.h"
@@ -18,5 +19,6 @@ public:
 private:
     void ShowTopic(const CommonDialog& dialog);
 
+    std::unique_ptr<QTextDocument> document;  // on show in the viewer, which goes first
     std::unique_ptr<QTextBrowser> viewer;
 };

@@ -10,9 +10,11 @@
 
 namespace {
 
-// A position outside the list, as at its ends, picks nothing.
+// Past the ends of the list there is nothing to pick.
 void PickPhase(RecordEdit& form, int number) {
-    form.cmbPhase.Pick(static_cast<std::size_t>(number - 1));
+    if (number >= 1) {
+        form.cmbPhase.Pick(static_cast<std::size_t>(number) - 1);
+    }
 }
 
 }  // namespace
@@ -35,7 +37,7 @@ void AddShortcuts(QWidget& window, RecordEdit& form, Mirror& mirror) {
         auto* const shortcut = new QShortcut(QKeySequence(row.key), &window);
         shortcut->setAutoRepeat(row.repeats);
         QObject::connect(shortcut, &QShortcut::activated, &window, [&mirror, act = row.act] {
-            const Mirror::Act deed(mirror);
+            const Mirror::Act users(mirror);
             act();
         });
     }
