@@ -85,14 +85,14 @@ TEST_F(WindowTest, NothingButAChoiceInTheOpenListIsAPick) {
     int picks = 0;
     form.cmbType.Click = [&picks] { ++picks; };
     QWheelEvent wheel({5, 5}, {5, 5}, {}, {0, 120}, Qt::NoButton, {}, Qt::NoScrollPhase, false);
-    for (const auto key : {Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown}) {
+    for (const auto by : QList<QKeyCombination>{Qt::Key_Up, Qt::Key_Down, Qt::ALT | Qt::Key_Down}) {
         list->setFocus();
         list->lineEdit()->selectAll();
         QTest::keyClicks(list, "Erosion");
         keyClick(list, Qt::Key_Return);
         QApplication::sendEvent(list, &wheel);
-        keyClick(list, key);
-        EXPECT_TRUE(list->view()->isVisible()) << key;
+        keyClick(list, by.key(), by.keyboardModifiers());
+        EXPECT_TRUE(list->view()->isVisible()) << by.toCombined();
         keyClick(list->view(), Qt::Key_Home);
         keyClick(list->view(), Qt::Key_Escape);
         EXPECT_FALSE(list->view()->isVisible());
