@@ -23,8 +23,8 @@ enum class Look {
     LeftAligned,  // a label; labels are right-aligned otherwise
     OutputField,  // a label: centred in a border, pale cyan
     DisabledAtStart,
-    HiddenAtStart,  // and with a picture in place of a caption
-    OwnPointer,     // the mouse has a pointer of its own over it
+    OpenPicture,  // a button: hidden until loading, an opening folder in place of a caption
+    OwnPointer,   // the mouse has a pointer of its own over it
 };
 
 /// Places are in twips, counted from the top left corner of the frame, or of the form where

@@ -17,7 +17,7 @@ void LayOut(RecordEdit& form, const CatalogueRow& row) {
         captioned->SetCaption(row.caption);
     }
     control->SetEnabled(row.look != Look::DisabledAtStart);
-    control->SetVisible(row.look != Look::HiddenAtStart);
+    control->SetVisible(row.look != Look::OpenPicture);
 }
 
 }  // namespace

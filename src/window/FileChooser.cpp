@@ -13,10 +13,38 @@ QString PathOf(const std::string& bytes) {
     return QFile::decodeName(QByteArray::fromStdString(bytes));
 }
 
+// Adds the extension to a name without one; if a file is to be opened that has none, leaves it.
+class NamingDialog : public QFileDialog {
+public:
+    NamingDialog(QWidget& parent, const CommonDialog& dialog)
+        : QFileDialog(&parent), extension(ToScreen(dialog.DefaultExt)) {
+        // Some desktops' own dialogs look for a file to be replaced before they add the extension,
+        // and so replace one without asking.
+        setOption(DontUseNativeDialog);
+        setWindowTitle(ToScreen(dialog.DialogTitle));
+        const QStringList filters = NameFilters(dialog.Filter);
+        setNameFilters(filters);
+        selectNameFilter(filters.value(dialog.FilterIndex - 1));
+        setHistory({});  // of other programs and other days
+    }
+
+protected:
+    void accept() override {
+        setDefaultSuffix({});
+        if (acceptMode() == AcceptSave || !QFileInfo::exists(selectedFiles().value(0))) {
+            setDefaultSuffix(extension);
+        }
+        QFileDialog::accept();
+    }
+
+private:
+    QString extension;
+};
+
 }  // namespace
 
 bool FileChooser::AskOpen(CommonDialog& dialog) {
-    QFileDialog asking(&parent);
+    NamingDialog asking(parent, dialog);
     asking.setAcceptMode(QFileDialog::AcceptOpen);
     const bool mustExist = (dialog.Flags & CommonDialog::MustExist) != 0;
     asking.setFileMode(mustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
@@ -24,23 +52,12 @@ bool FileChooser::AskOpen(CommonDialog& dialog) {
 }
 
 bool FileChooser::AskSave(CommonDialog& dialog) {
-    QFileDialog asking(&parent);
+    NamingDialog asking(parent, dialog);
     asking.setAcceptMode(QFileDialog::AcceptSave);
     asking.setFileMode(QFileDialog::AnyFile);
-    asking.setDefaultSuffix(ToScreen(dialog.DefaultExt));
     const bool askFirst = (dialog.Flags & CommonDialog::AskBeforeReplacing) != 0;
     asking.setOption(QFileDialog::DontConfirmOverwrite, !askFirst);
     return Ask(asking, dialog);
-}
-
-void FileChooser::SetUp(QFileDialog& asking, const CommonDialog& dialog) {
-    // Some desktops' own dialogs look for a file to be replaced before they add the extension,
-    // and so replace one without asking.
-    asking.setOption(QFileDialog::DontUseNativeDialog);
-    asking.setWindowTitle(ToScreen(dialog.DialogTitle));
-    const QStringList filters = NameFilters(dialog.Filter);
-    asking.setNameFilters(filters);
-    asking.selectNameFilter(filters.value(dialog.FilterIndex - 1));
 }
 
 void FileChooser::Offer(QFileDialog& asking, const CommonDialog& dialog) const {
@@ -58,13 +75,13 @@ void FileChooser::Offer(QFileDialog& asking, const CommonDialog& dialog) const {
 }
 
 bool FileChooser::Ask(QFileDialog& asking, CommonDialog& dialog) {
-    SetUp(asking, dialog);
     Offer(asking, dialog);
     if (asking.exec() != QDialog::Accepted) {
         return false;
     }
-    lastFolder = asking.directory().absolutePath();
-    dialog.FileName = QFile::encodeName(asking.selectedFiles().value(0)).toStdString();
+    const QString chosen = asking.selectedFiles().value(0);
+    lastFolder = QFileInfo(chosen).absolutePath();
+    dialog.FileName = QFile::encodeName(chosen).toStdString();
     return true;
 }
 

@@ -18,12 +18,11 @@ public:
     bool AskSave(CommonDialog& dialog) override;
 
 private:
-    static void SetUp(QFileDialog& asking, const CommonDialog& dialog);
     void Offer(QFileDialog& asking, const CommonDialog& dialog) const;
     bool Ask(QFileDialog& asking, CommonDialog& dialog);
 
     QWidget& parent;
-    QString lastFolder;  // from which the user last took a file; empty before that
+    QString lastFolder;  // of the file that the user last took; empty before that
 };
 
 /// The toolkit's filters for "Records (*.rec)|*.rec;*.REC|": here "Records (*.rec *.REC)".

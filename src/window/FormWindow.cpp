@@ -10,6 +10,7 @@
 
 #include "window/Access.h"
 #include "window/Pictures.h"
+#include "window/Scale.h"
 #include "window/ScreenText.h"
 #include "window/Shortcuts.h"
 

@@ -10,7 +10,7 @@
 #include "form/RecordEdit.h"
 #include "shell/Services.h"
 #include "window/Mirror.h"
-#include "window/Scale.h"
+#include "window/Picture.h"
 
 /// The form's icon, which serves all windows of the program.
 QIcon FormIcon();

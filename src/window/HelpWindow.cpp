@@ -83,12 +83,18 @@ void HelpWindow::ShowTopic(const CommonDialog& dialog) {
     if (viewer == nullptr) {
         viewer = NewViewer();
     }
-    // A document that is not on show yet is filled much faster.
-    auto next = std::make_unique<QTextDocument>();
-    next->setDocumentMargin(12);
-    Fill(*next, dialog);
-    viewer->setDocument(next.get());
-    document = std::move(next);
+    // A reader who asks for the topic again is left at the place that was reached.
+    const bool again = viewer->isVisible() && topic == dialog.HelpContext;
+    topic = dialog.HelpContext;
+    if (!again) {
+        // A document that is not on show yet is filled much faster.
+        auto next = std::make_unique<QTextDocument>();
+        next->setDocumentMargin(12);
+        Fill(*next, dialog);
+        viewer->setDocument(next.get());
+        document = std::move(next);
+    }
+    viewer->setWindowState(viewer->windowState() & ~Qt::WindowMinimized);
     viewer->show();
     viewer->raise();
     viewer->activateWindow();

@@ -21,4 +21,5 @@ private:
 
     std::unique_ptr<QTextDocument> document;  // on show in the viewer, which goes first
     std::unique_ptr<QTextBrowser> viewer;
+    int topic = 0;  // the last one shown
 };

@@ -6,6 +6,8 @@
 #include <QStyleOptionFrame>
 #include <utility>
 
+#include "window/ScreenText.h"
+
 namespace {
 
 // As the toolkit sees it: Control and Alt together are the AltGr of some keyboards.
@@ -36,15 +38,11 @@ LineBox::LineBox(QWidget* parent) : QLineEdit(parent) {
 }
 
 QSize LineBox::SizeFor(const QString& shown) const {
-    constexpr int sideMargins = 4;  // that the toolkit keeps free beside the text
-    constexpr int caret = 1;
     QStyleOptionFrame option;
     initStyleOption(&option);
     option.rect = QRect(0, 0, 500, 500);
     const QSize inside = style()->subElementRect(QStyle::SE_LineEditContents, &option, this).size();
-    const QSize text(fontMetrics().horizontalAdvance(shown) + sideMargins + caret,
-                     fontMetrics().height());
-    return text + option.rect.size() - inside;
+    return RoomToEdit(shown, fontMetrics()) + option.rect.size() - inside;
 }
 
 void LineBox::TellIfEdited() {

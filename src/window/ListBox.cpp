@@ -9,6 +9,8 @@
 #include <QWheelEvent>
 #include <utility>
 
+#include "window/ScreenText.h"
+
 namespace {
 
 bool MovesInList(int key) {
@@ -36,8 +38,6 @@ void ListBox::SetEntries(const QStringList& shown) {
 }
 
 QSize ListBox::SizeFor(const QString& shown) const {
-    constexpr int sideMargins = 4;  // that the toolkit keeps free beside the text
-    constexpr int caret = 1;
     QStyleOptionComboBox option;
     initStyleOption(&option);
     option.rect = QRect(0, 0, 500, 500);
@@ -45,9 +45,7 @@ QSize ListBox::SizeFor(const QString& shown) const {
         style()
             ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this)
             .size();
-    const QSize text(fontMetrics().horizontalAdvance(shown) + sideMargins + caret,
-                     fontMetrics().height());
-    return text + option.rect.size() - inside;
+    return RoomToEdit(shown, fontMetrics()) + option.rect.size() - inside;
 }
 
 void ListBox::showPopup() {

@@ -25,10 +25,14 @@ void Mirror::BringUpToDate() {
         return;  // the loop below is running and comes to the new marks by itself
     }
     updating = true;
-    // The focus leaves a widget that becomes disabled, and marks more by what it sets off.
+    // The focus leaves a widget that becomes disabled, and marks more by what it sets off. It goes
+    // to the next enabled widget: so those of enabled controls come first.
+    const auto enabled = [](const Picture* picture) { return picture->Original().Enabled(); };
     while (!marked.empty()) {
-        Picture& picture = *marked.front();
-        marked.pop_front();
+        const auto found = std::find_if(marked.begin(), marked.end(), enabled);
+        const auto next = found != marked.end() ? found : marked.begin();
+        Picture& picture = **next;
+        marked.erase(next);
         picture.Update();
     }
     updating = false;

@@ -3,7 +3,7 @@
 #pragma once
 
 #include <QObject>
-#include <deque>
+#include <vector>
 
 class Picture;
 
@@ -33,7 +33,7 @@ public:
     bool Updating() const { return updating; }
 
 private:
-    std::deque<Picture*> marked;
+    std::vector<Picture*> marked;
     int depth = 0;
     bool updating = false;
 };

@@ -8,6 +8,8 @@
 #include <QPalette>
 #include <QSize>
 #include <QWidget>
+#include <memory>
+#include <vector>
 
 #include "form/Catalogue.h"
 #include "form/Controls.h"
@@ -57,6 +59,8 @@ private:
     QWidget& widget;
     Mirror& mirror;
 };
+
+using Pictures = std::vector<std::unique_ptr<Picture>>;
 
 /// A picture that knows the kinds of its control and of its widget.
 template <class ControlKind, class WidgetKind>

@@ -126,7 +126,7 @@ class CommandButtonPicture : public PictureOf<CommandButton, QPushButton> {
 public:
     explicit CommandButtonPicture(const Subject& subject) : PictureOf(subject) {
         widget.setAutoDefault(true);  // Enter presses the button that has the focus
-        if (Row().look == Look::HiddenAtStart) {
+        if (Row().look == Look::OpenPicture) {
             QIcon icon;
             for (const int size : {16, 20, 24, 32}) {
                 icon.addFile(QString(":/window/open-%1.xpm").arg(size), {size, size});

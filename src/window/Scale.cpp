@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "editing/Entries.h"
 #include "rules/EruptionTypes.h"
 #include "window/ScreenText.h"
 
@@ -14,11 +15,11 @@ constexpr NamedText LaterTexts[]{
     {"Command1", "Close"},
     {"Command2", "Save"},
     {"labPhases", "500"},
-    {"chkCald", "Caldera"},
-    {"chkCald", "Diatreme"},
-    {"labSlide4", "Vent Position"},
-    {"labSlide4", "Burst Frequency"},
-    {"cmbPhase", "Add Phase"},
+    {"chkCald", CalderaCaption},
+    {"chkCald", DiatremeCaption},
+    {"labSlide4", VentCaption},
+    {"labSlide4", FrequencyCaption},
+    {"cmbPhase", NoPhaseText},
     {"cmbPhase", "Phase 500"},
     {"cmbType", "Vulcanian/Surtseyan"},
     {"cmbType", "Fumarolic/Phreatic"},

@@ -3,12 +3,8 @@
 #pragma once
 
 #include <QStringList>
-#include <memory>
-#include <vector>
 
 #include "window/Picture.h"
-
-using Pictures = std::vector<std::unique_ptr<Picture>>;
 
 /// Logical pixels to the twip: 96 pixels to the inch, enlarged until the widgets cut off no
 /// caption, list entry or value in range in the font that they have. The widgets are left with

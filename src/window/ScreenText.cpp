@@ -50,3 +50,9 @@ std::size_t BytePlace(std::string_view bytes, int place) {
                                             : static_cast<std::size_t>(place);
     return std::min(count, bytes.size());
 }
+
+QSize RoomToEdit(const QString& shown, const QFontMetrics& metrics) {
+    constexpr int sideMargins = 4;  // that the toolkit keeps free beside the text
+    constexpr int caret = 1;
+    return {metrics.horizontalAdvance(shown) + sideMargins + caret, metrics.height()};
+}

@@ -2,6 +2,8 @@
 // shows. Paths of the file system are not turned here, but by the toolkit.
 #pragma once
 
+#include <QFontMetrics>
+#include <QSize>
 #include <QString>
 #include <cstddef>
 #include <string>
@@ -18,3 +20,6 @@ std::string FromScreen(const QString& shown);
 /// the end counts as the end.
 int ScreenPlace(std::string_view bytes, std::size_t place);
 std::size_t BytePlace(std::string_view bytes, int place);
+
+/// The room that such a text takes while it can be edited, its insertion point included.
+QSize RoomToEdit(const QString& shown, const QFontMetrics& metrics);

@@ -33,6 +33,15 @@ TEST_F(WindowTest, KeysOfTheFormDoWhatIsEnabledAndPressNoKeyInABox) {
     }
 }
 
+TEST_F(WindowTest, TheFocusGoesToTheNextControlThatAPhaseEnables) {
+    PhaseRecord erosion = GoodPhase(EruptionType::Tectonic);
+    erosion.tectonicKind = TectonicKind::Erosion;
+    Open({GoodPhase(EruptionType::Vulcanian), erosion});
+    Find("txtLoc")->setFocus();
+    keyClick(Find("txtLoc"), Qt::Key_PageDown, Qt::ControlModifier);
+    EXPECT_EQ(QApplication::focusWidget()->objectName(), "txtErode") << "and not Delete";
+}
+
 double Brightness(const QColor& color) {
     return 0.2126 * std::pow(color.redF(), 2.2) + 0.7152 * std::pow(color.greenF(), 2.2) +
            0.0722 * std::pow(color.blueF(), 2.2) + 0.05;
@@ -81,17 +90,23 @@ TEST_F(WindowTest, ANameGetsItsExtensionAndNoFileIsReplacedUnasked) {
     const std::string deep = folder / (std::string(150, 'a') + "/" + std::string(150, 'b') + "/");
     std::filesystem::create_directories(deep);
     WriteBytes(folder / "there.rec", "");
+    WriteBytes(folder / "bare", "");
     FileChooser chooser(window);
     form.CD1.InitDir = folder / "";
     form.CD1.DefaultExt = "rec";
-    form.CD1.Flags = CommonDialog::AskBeforeReplacing;
-    const std::string rows[][3]{
+    struct Row {
+        std::string offered, typed, chosen;
+        bool opens = false;
+    };
+    const Row rows[]{
         {"", "there", folder / "there.rec"},
+        {"", "bare", folder / "bare", true},
+        {"", "there", folder / "there.rec", true},
         {"", folder / "a.txt", folder / "a.txt"},
         {deep + "a name é.rec", "", deep + "a name é.rec"},
         {"", "next", deep + "next.rec"},  // where the user last was
     };
-    for (const auto& [offered, typed, saved] : rows) {
+    for (const auto& [offered, typed, chosen, opens] : rows) {
         bool asked = false;
         QTimer::singleShot(0, &window, [&, name = typed] {
             auto* const box = QApplication::activeModalWidget()->findChild<QLineEdit*>();
@@ -107,8 +122,9 @@ TEST_F(WindowTest, ANameGetsItsExtensionAndNoFileIsReplacedUnasked) {
             keyClick(box, Qt::Key_Return);
         });
         form.CD1.FileName = offered;
-        EXPECT_TRUE(chooser.AskSave(form.CD1));
-        EXPECT_EQ(form.CD1.FileName, saved);
-        EXPECT_EQ(asked, typed == "there") << typed;
+        form.CD1.Flags = opens ? CommonDialog::MustExist : CommonDialog::AskBeforeReplacing;
+        EXPECT_TRUE(opens ? chooser.AskOpen(form.CD1) : chooser.AskSave(form.CD1));
+        EXPECT_EQ(form.CD1.FileName, chosen);
+        EXPECT_EQ(asked, typed == "there" && !opens) << typed;
     }
 }

@@ -32,4 +32,9 @@ TEST(HelpWindowTest, ShowsTheTopicOrTellsThatThereIsNone) {
     auto* const shown = qobject_cast<QTextBrowser*>(QApplication::topLevelWidgets().value(0));
     ASSERT_TRUE(shown && shown->isVisible());
     EXPECT_EQ(shown->toPlainText(), "The help file cannot be read: /no/where.hlp");
+    const QTextDocument* const document = shown->document();
+    shown->showMinimized();
+    viewer.ShowHelp(dialog);
+    EXPECT_FALSE(shown->isMinimized());
+    EXPECT_EQ(shown->document(), document) << "at the place that the reader has reached";
 }

@@ -1,6 +1,7 @@
 #include "WindowTest.h"
 
 #include "window/MessageDialogs.h"
+#include "window/Scale.h"
 
 TEST_F(WindowTest, OnlyKeysThatBringOrTakeACharacterCountAsPresses) {
     auto* const box = Find<QLineEdit>("txtWind");
