@@ -159,6 +159,7 @@ protected:
 
     /// Picks an entry of a list by its text, as the user does.
     static void Pick(ComboBox& box, const std::string& entry) {
+        EXPECT_TRUE(box.OpenToUser()) << box.Name() << " is closed";
         for (std::size_t i = 0; i < box.Entries().size(); ++i) {
             if (box.Entries()[i] == entry) {
                 box.Pick(i);
