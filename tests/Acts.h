@@ -1,15 +1,14 @@
-// Random acts of a user through the controls' doors, and what must hold after each of them. The
-// acts come out of a source of choices: a seeded generator, or the bytes of a fuzzer.
+// Random acts of a user at the form's doors, and what must hold after each of them. The acts come
+// out of a source of choices: a seeded generator, or the bytes of a fuzzer.
 #pragma once
 
 #include <array>
 #include <functional>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "TestForm.h"
+#include "Doors.h"
 #include "editing/Fields.h"
 #include "rules/Activation.h"
 
@@ -30,16 +29,22 @@ public:
         }
     }
 
-    /// Does one act and tells what it was.
+    /// Does one act and tells what it was, in the words of a story.
     std::string Act() {
         platform.messages.clear();
         platform.answers.clear();
-        Control* const control = controls[choose(controls.size())];
-        const std::string did = control->Name() + ' ' + On(*control);
+        Control& control = *controls[choose(controls.size())];
+        const auto [verb, text] = Idea(control);
+        const Control* const displays[] = {&form.cmbPhase, &form.cmbType, &form.cmdAdd,
+                                           &form.cmdDelete, &form.cmdReset};
+        displayed =
+            control.OpenToUser() && (verb == "pick" || verb == "press") &&
+            std::find(std::begin(displays), std::end(displays), &control) != std::end(displays);
+        Do(control, verb, text);
         for (const Message& message : platform.messages) {
             readDataFailed |= message.text.starts_with("RecordEdit ReadData error");
         }
-        return did;
+        return verb + ' ' + control.Name() + ' ' + text;
     }
 
     /// What does not hold now, in words; empty if all does.
@@ -62,75 +67,39 @@ public:
     }
 
 private:
-    std::string On(Control& control) {
+    template <class Texts>
+    std::string OneOf(const Texts& texts) {
+        return std::string(texts[choose(std::size(texts))]);
+    }
+
+    // A verb for the control and a text for the verb. What a button asks for is answered here.
+    std::pair<std::string, std::string> Idea(const Control& control) {
         if (choose(16) == 0) {
-            control.MoveMouse();
-            control.TakeFocus();
-            return "focus";
+            return {choose(2) == 0 ? "mouse" : "focus", ""};
         }
-        if (auto* const box = dynamic_cast<TextBox*>(&control)) {
-            return OnText(*box);
+        if (const auto* box = dynamic_cast<const TextBox*>(&control)) {
+            const std::string typed = box->Text() + "0123456789.,-+eE x\"\xff"[choose(19)];
+            return {choose(4) == 0 ? "edit" : "key", choose(2) == 0 ? OneOf(Numbers) : typed};
         }
-        if (auto* const list = dynamic_cast<ComboBox*>(&control)) {
-            return OnList(*list);
+        if (const auto* list = dynamic_cast<const ComboBox*>(&control)) {
+            if (list->Entries().empty() || choose(4) == 0) {
+                return {"type", choose(2) == 0 ? "Phase " + OneOf(Numbers) : "Flow 2 Duration"};
+            }
+            return {"pick", OneOf(list->Entries())};
         }
-        if (auto* const check = dynamic_cast<CheckBox*>(&control)) {
-            check->Toggle();
-        } else if (auto* const option = dynamic_cast<OptionButton*>(&control)) {
-            option->Choose();
-        } else if (auto* const button = dynamic_cast<CommandButton*>(&control)) {
-            return OnButton(*button);
+        if (dynamic_cast<const CommandButton*>(&control) != nullptr) {
+            if (choose(4) == 0) {
+                Damage();
+            }
+            if (choose(8) != 0) {
+                platform.answers.push_back(folder / OneOf(Names));
+            }
+            return {"press", ""};
         }
-        return "click";
-    }
-
-    std::string OnText(TextBox& box) {
-        std::string text =
-            choose(2) == 0 ? Number() : box.Text() + "0123456789.,-+eE x\"\xff"[choose(19)];
-        if (choose(4) == 0) {
-            box.Edit(text);
-            return "edit " + text;
-        }
-        box.PressKey(text, choose(4));
-        return "key " + text;
-    }
-
-    std::string Number() {
-        static constexpr std::array<std::string_view, 16> texts{
-            "",   "0",  "1",   "0.3", "0.5",   "0.6",  "2.5", "12",
-            "-7", "99", "101", "600", "32768", "1e39", "abc", "none"};
-        return std::string(texts[choose(texts.size())]);
-    }
-
-    std::string OnList(ComboBox& list) {
-        if (choose(4) == 0) {
-            const std::string text =
-                choose(2) == 0 ? "Phase " + std::to_string(choose(20)) : "Flow 2 Duration";
-            list.Type(text);
-            return "type " + text;
-        }
-        const std::size_t entry = list.Entries().empty() ? 0 : choose(list.Entries().size());
-        displayed = list.OpenToUser() && !list.Entries().empty() &&
-                    (&list == &form.cmbPhase || &list == &form.cmbType);
-        list.Pick(entry);
-        return "pick " + std::to_string(entry);
-    }
-
-    std::string OnButton(CommandButton& button) {
-        std::string answer = "cancel";
-        if (choose(8) != 0) {
-            static constexpr std::array<std::string_view, 6> names{
-                "a.rec", "b.rec", "broken.rec", "full.rec", "no/a.rec", "c\".rec"};
-            answer = folder / std::string(names[choose(names.size())]);
-            platform.answers.push_back(answer);
-        }
-        if (&button == &form.cmdOpen && choose(4) == 0) {
-            Damage();
-        }
-        displayed = button.OpenToUser() && (&button == &form.cmdAdd || &button == &form.cmdDelete ||
-                                            &button == &form.cmdReset);
-        button.Press();
-        return "press, " + answer;
+        return {dynamic_cast<const CheckBox*>(&control) != nullptr       ? "toggle"
+                : dynamic_cast<const OptionButton*>(&control) != nullptr ? "choose"
+                                                                         : "mouse",
+                ""};
     }
 
     // A file with one byte of another file changed, or cut off behind it.
@@ -158,8 +127,7 @@ private:
 
     // After a display the rules have nothing left to change.
     std::string BrokenActivation() {
-        const bool failed = !platform.messages.empty();
-        if (!std::exchange(displayed, false) || failed) {
+        if (!displayed || !platform.messages.empty()) {
             return "";
         }
         std::vector<bool> before;
@@ -167,13 +135,19 @@ private:
             before.push_back(control->Enabled());
         }
         DataActivate(form, form.CurType);
+        std::string broken;
         for (std::size_t i = 0; i < before.size(); ++i) {
-            if (form.Controls()[i]->Enabled() != before[i]) {
-                return "activation of " + form.Controls()[i]->Name();
-            }
+            const Control& control = *form.Controls()[i];
+            broken += control.Enabled() == before[i] ? "" : "activation of " + control.Name();
         }
-        return "";
+        return broken;
     }
+
+    static constexpr std::string_view Numbers[] = {"",      "0",    "1",   "0.3", "0.5", "0.6",
+                                                   "2.5",   "12",   "-7",  "99",  "101", "600",
+                                                   "32768", "1e39", "abc", "none"};
+    static constexpr std::string_view Names[] = {"a.rec",    "b.rec",    "broken.rec",
+                                                 "full.rec", "no/a.rec", "c\".rec"};
 
     RecordEdit& form;
     TestPlatform& platform;

@@ -40,12 +40,6 @@ Kind& As(Control& control) {
     return dynamic_cast<Kind&>(control);
 }
 
-inline void Pick(ComboBox& list, const std::string& text) {
-    const auto entry = std::find(list.Entries().begin(), list.Entries().end(), text);
-    EXPECT_TRUE(entry != list.Entries().end()) << "no entry " << text;
-    list.Pick(static_cast<std::size_t>(entry - list.Entries().begin()));
-}
-
 /// Does what a user does at one control.
 inline void Do(Control& control, const std::string& verb, const std::string& text) {
     using Door = void (*)(Control&, const std::string&);
@@ -53,7 +47,10 @@ inline void Do(Control& control, const std::string& verb, const std::string& tex
         {"key", [](Control& c, const std::string& t) { As<TextBox>(c).PressKey(t); }},
         {"edit", [](Control& c, const std::string& t) { As<TextBox>(c).Edit(t); }},
         {"type", [](Control& c, const std::string& t) { As<ComboBox>(c).Type(t); }},
-        {"pick", [](Control& c, const std::string& t) { Pick(As<ComboBox>(c), t); }},
+        {"pick",
+         [](Control& c, const std::string& t) {
+             As<ComboBox>(c).Pick(PositionOf(As<ComboBox>(c), t));
+         }},
         {"toggle", [](Control& c, const std::string&) { As<CheckBox>(c).Toggle(); }},
         {"choose", [](Control& c, const std::string&) { As<OptionButton>(c).Choose(); }},
         {"press", [](Control& c, const std::string&) { As<CommandButton>(c).Press(); }},

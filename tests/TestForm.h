@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <deque>
 #include <filesystem>
 #include <fstream>
@@ -62,15 +63,10 @@ public:
 private:
     bool Ask(CommonDialog& dialog) {
         offered.push_back(dialog.FileName);
-        if (answers.empty() || !answers.front()) {
-            if (!answers.empty()) {
-                answers.pop_front();
-            }
-            return false;
-        }
-        dialog.FileName = *answers.front();
-        answers.pop_front();
-        return true;
+        const auto answer = answers.empty() ? std::nullopt : answers.front();
+        answers.erase(answers.begin(), answers.begin() + (answers.empty() ? 0 : 1));
+        dialog.FileName = answer.value_or(dialog.FileName);
+        return answer.has_value();
     }
     Form& form;
 };
@@ -117,6 +113,18 @@ inline void WriteBytes(const std::string& path, const std::string& bytes) {
     std::ofstream(path, std::ios::binary) << bytes;
 }
 
+inline std::size_t PositionOf(const ComboBox& list, const std::string& text) {
+    const auto entry = std::find(list.Entries().begin(), list.Entries().end(), text);
+    EXPECT_TRUE(entry != list.Entries().end()) << "no entry " << text;
+    return static_cast<std::size_t>(entry - list.Entries().begin());
+}
+
+/// Picks an entry of a list that is open to the user.
+inline void Pick(ComboBox& list, const std::string& text) {
+    EXPECT_TRUE(list.OpenToUser()) << list.Name() << " is closed";
+    list.Pick(PositionOf(list, text));
+}
+
 class FormTest : public testing::Test {
 protected:
     std::unique_ptr<RecordEdit> owner = std::make_unique<RecordEdit>();
@@ -155,18 +163,6 @@ protected:
         platform.answers.push_back(path);
         form.cmdOpen.Press();
         ASSERT_EQ(form.EditPhaseCount, record->LoadedPhaseCount);
-    }
-
-    /// Picks an entry of a list by its text, as the user does.
-    static void Pick(ComboBox& box, const std::string& entry) {
-        EXPECT_TRUE(box.OpenToUser()) << box.Name() << " is closed";
-        for (std::size_t i = 0; i < box.Entries().size(); ++i) {
-            if (box.Entries()[i] == entry) {
-                box.Pick(i);
-                return;
-            }
-        }
-        FAIL() << "no entry " << entry;
     }
 };
 
