@@ -16,7 +16,9 @@ struct Act {
     }
 };
 
-inline std::vector<std::string> WordsOf(const std::string& text) {
+using Items = std::vector<std::string>;
+
+inline Items WordsOf(const std::string& text) {
     std::istringstream stream(text);
     return {std::istream_iterator<std::string>(stream), {}};
 }

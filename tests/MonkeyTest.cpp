@@ -19,17 +19,11 @@ TEST_F(MonkeyTest, NothingBreaksWhateverTheUserDoes) {
     std::mt19937_64 generator(seed);
     User user(form, platform, folder,
               [&generator](std::size_t below) { return generator() % below; });
-    std::deque<std::string> last;
+    std::string acts;
     for (unsigned long i = FromEnvironment("TEPHREX_MONKEY_ACTS", 20000); i > 0; --i) {
-        last.push_back(user.Act());
-        if (const std::string broken = user.Broken(); !broken.empty()) {
-            std::string acts;
-            for (const std::string& act : last) {
-                acts += '\n' + act;
-            }
-            FAIL() << broken << " with seed " << seed << ", after" << acts;
-        }
-        last.erase(last.begin(), last.begin() + (last.size() > 40 ? 1 : 0));
+        acts = acts.substr(acts.size() - std::min<std::size_t>(acts.size(), 2000));
+        ASSERT_NO_THROW(acts += user.Act() + '\n') << "seed " << seed << ", behind\n" << acts;
+        ASSERT_EQ(user.Broken(), "") << "seed " << seed << ", behind\n" << acts;
     }
 }
 

@@ -5,22 +5,20 @@
 #include <charconv>
 #include <map>
 
-#include "TestForm.h"
+#include "Doors.h"
 #include "editing/Fields.h"
 
-using Items = std::vector<std::string>;
-
-#define FIELD(name) \
-    { #name, &PhaseRecord::name }
+// clang-format off
+#define FIELD(name) {#name, &PhaseRecord::name}
 inline const std::map<std::string, FieldMember> NamedFields{
-    FIELD(ventLocation), FIELD(eruptionType),  FIELD(strength),       FIELD(wind),
-    FIELD(massFlux),     FIELD(calderaFlag),   FIELD(directedFlag),   FIELD(calderaStyle),
-    FIELD(scarpTop),     FIELD(scarpBase),     FIELD(burstCount),     FIELD(tectonicKind),
-    FIELD(faultDip),     FIELD(faultDownSide), FIELD(faultMagnitude), FIELD(erosionCycles),
-    FIELD(burstFlag),    FIELD(flowLength),    FIELD(craterSize),     FIELD(position3D),
-    FIELD(ventPosition), FIELD(growth),        FIELD(speed),          FIELD(midRadius),
-    FIELD(depositAngle), FIELD(leftAngle),     FIELD(rightAngle)};
+    FIELD(ventLocation), FIELD(eruptionType), FIELD(strength), FIELD(wind), FIELD(massFlux),
+    FIELD(calderaFlag), FIELD(directedFlag), FIELD(calderaStyle), FIELD(scarpTop),
+    FIELD(scarpBase), FIELD(burstCount), FIELD(tectonicKind), FIELD(faultMagnitude),
+    FIELD(faultDip), FIELD(faultDownSide), FIELD(erosionCycles), FIELD(burstFlag),
+    FIELD(flowLength), FIELD(craterSize), FIELD(position3D), FIELD(ventPosition), FIELD(growth),
+    FIELD(speed), FIELD(midRadius), FIELD(depositAngle), FIELD(leftAngle), FIELD(rightAngle)};
 #undef FIELD
+// clang-format on
 
 inline std::string NumberText(double number) {
     std::array<char, 64> text{};
@@ -92,17 +90,22 @@ public:
         return lines;
     }
 
-    /// A text on one line and without the folder of the test.
-    static std::string Shown(std::string text, const std::string& folder) {
-        const auto replace = [&text](const std::string& from, const std::string& to) {
-            for (std::size_t at = 0; (at = text.find(from, at)) != std::string::npos;) {
-                text.replace(at, from.size(), to);
+    /// A text on one line and without the folder of the test; a story can write all of it.
+    static std::string Shown(const std::string& text, const std::string& folder = "//") {
+        std::string shown;
+        for (std::size_t at = 0; at < text.size(); ++at) {
+            const std::string_view rest = std::string_view(text).substr(at);
+            if (rest.starts_with(folder) && rest != folder) {
+                at += folder.size() - 1;
+            } else if (rest.front() > 0x1F || (rest.front() < 0 && rest.front() != '\xFF')) {
+                shown += rest.front();
+            } else {
+                const int byte = static_cast<unsigned char>(rest.front());
+                shown += std::string("\\x") + "0123456789ABCDEF"[byte / 16] +
+                         "0123456789ABCDEF"[byte % 16];
             }
-        };
-        text = text == folder ? "the folder" : text;
-        replace(folder, "");
-        replace("\r\n", "// ");
-        return text.empty() ? "\"\"" : text;
+        }
+        return text.empty() ? "\"\"" : text == folder ? "the folder" : shown;
     }
 
 private:
@@ -160,15 +163,15 @@ private:
         for (std::size_t i = 0; i < enabled.size(); ++i) {
             turned[enabled[i].first] = enabled[i] != now.enabled[i] && now.enabled[i].second == on;
         }
-        Items names;
+        std::string names;
         for (const auto& [name, before] : enabled) {
-            const std::string rest = name.substr(3);
-            const bool pair = turned["lab" + rest] && turned["txt" + rest];
+            const std::string rest = name.substr(3), box = "txt" + rest;
+            const bool pair = turned["lab" + rest] && turned[box];
             if (turned[name] && !(pair && name.starts_with("lab"))) {
-                names.push_back(pair ? rest : name);
+                names += ' ' + (pair && name == box ? rest : name);
             }
         }
-        return names.empty() ? names : Items{(on ? "on " : "off ") + Joined(names, " ")};
+        return names.empty() ? Items{} : Items{(on ? "on" : "off") + names};
     }
 
     // Flows next to each other that get the same duration are told together.

@@ -228,6 +228,11 @@ private:
         } else if (act.verb == "number") {
             const std::string text = Unwritten(rest);
             return {{{NumberText(ParseLeadingNumber(text, scene->form.separators))}}};
+        } else if (act.verb == "reads") {
+            return Read(Unwritten(rest));
+        } else if (act.verb == "item") {
+            const std::string item = Unwritten(rest);
+            return std::vector<Items>(1, Read(",,,1,20,,P,1," + item + ',' + item + ",0").back());
         } else if (act.verb == "written") {
             std::vector<Items> texts;
             for (int i = 0; i < 4; ++i) {
@@ -242,6 +247,21 @@ private:
             }
         }
         return std::nullopt;
+    }
+
+    // What a file of these bytes leaves of a reference, a count, a scale, a Single and an Integer.
+    static std::vector<Items> Read(const std::string& bytes) {
+        const auto record = std::make_unique<EditorState>();
+        record->StratFile = "old";
+        record->LoadedPhaseCount = 7;
+        record->RecordScale = 9;
+        PhaseRecord& phase = record->LoadedPhases[1];
+        phase.ventLocation = phase.eruptionType = 77;
+        std::stringbuf source(bytes);
+        return {{ReadRecord(source, *record) ? "whole" : "fails"},
+                {'"' + Snapshot::Shown(record->StratFile) + '"'},
+                {std::to_string(record->LoadedPhaseCount), std::to_string(record->RecordScale)},
+                {NumberText(phase.ventLocation), std::to_string(phase.eruptionType)}};
     }
 
     // A form in which a record has been opened, or a new one; nothing of it is told.
