@@ -144,17 +144,13 @@ private:
         Note(name + " shown", control.Visible() ? "yes" : "no");
     }
 
-    // Entries that count upward from 1 are told by the first and the last.
+    // Many entries that are numbered are told by the first and the last.
     static std::string EntriesOf(const ComboBox& list) {
         const Items& entries = list.Entries();
-        bool counts = entries.size() > 2;
-        for (std::size_t i = 0; counts && i < entries.size(); ++i) {
-            std::string entry = entries[0];
-            counts = entry.find('1') != std::string::npos &&
-                     entries[i] == entry.replace(entry.find('1'), 1, std::to_string(i + 1));
-        }
-        return counts ? entries.front() + " to " + entries.back()
-                      : (entries.empty() ? "nothing" : Joined(entries, ", "));
+        const bool numbered = entries.size() > 2 && entries[0].find('1') != std::string::npos;
+        return entries.empty() ? "nothing"
+               : numbered      ? entries.front() + " to " + entries.back()
+                               : Joined(entries, ", ");
     }
 
     // The controls turned on or off; a box and its label that go together by the name they share.
