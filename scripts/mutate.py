@@ -32,7 +32,7 @@ TEXT = re.compile(r'"([^"\\]|\\.)*"')
 STATEMENT = re.compile(r"^( +)(?!return|const |auto |using |break)[^ ].*;$")
 ROW = re.compile(r"^( +)\{.*\},?$")
 # Steps without effects on others of their kind: to exchange two of them changes nothing.
-QUIET = re.compile(r"\.Set(Enabled|Caption|Visible|ToolTipText)\(|^ +[\w.]+ = [^()]+;$|[oX], [oX]")
+QUIET = re.compile(r"\.Set(Enabled|Caption|Visible|ToolTipText)\(|^ +[\w.\[\]'\\ ]+ \+?= [^()]+;$|[oX], [oX]")
 
 
 def code_of(line):

@@ -83,12 +83,17 @@ TEST_F(ControlsTest, CodePassesClosedDoorsAndASetterThatChangesNothingRaisesNoth
     EXPECT_EQ(form.chkCald.Value(), 0);
     log.clear();
     form.cmbFlow.AddItem("x");
+    box.SetText("added");
     form.cmbFlow.AddItem("y");
+    box.SetText("removed");
     form.cmbFlow.RemoveItem(0);
-    EXPECT_EQ(form.cmbFlow.Text() + form.cmbFlow.Entries().at(0), "yy");
     EXPECT_THROW(form.cmbFlow.RemoveItem(1), std::out_of_range);
+    EXPECT_EQ(form.cmbFlow.Text() + form.cmbFlow.Entries().at(0), "yy");
+    box.SetText("");
     form.cmbFlow.Clear();
-    EXPECT_EQ(form.cmbFlow.Text() + log, "[cmbFlow]");
+    form.cmbFlow.Clear();
+    EXPECT_EQ(log, "[cmbFlow][added]Change[cmbFlow][removed]Change[cmbFlow][]Change[cmbFlow]");
+    EXPECT_EQ(form.cmbFlow.Text(), "");
 }
 
 TEST_F(ControlsTest, AHandlerThatRewritesItsBoxReadsTheNewTextAndTheSelectionStaysInside) {
@@ -118,6 +123,11 @@ TEST_F(FormTest, TheCatalogueHoldsTheControlsOfTheFormInTabOrder) {
         ++kinds.at(static_cast<std::size_t>(row.kind));
         if (row.kind > Kind::Label && row.kind < Kind::CommonDialog) {
             tabs[row.tab] += row.name;
+        }
+    }
+    for (const auto& names : {LabelsOf(), SpokenNames(), ToolTips()}) {
+        for (const NamedText& name : names) {
+            EXPECT_NE(form.Find(name.control), nullptr) << name.control;
         }
     }
     EXPECT_EQ(kinds, (std::vector{4, 28, 22, 5, 3, 3, 8, 1}));

@@ -173,6 +173,9 @@ private:
     // Flows next to each other that get the same duration are told together.
     static Items OfPhase(const std::string& head, const PhaseRecord& before, const PhaseRecord& now,
                          const FlowRow& flowsBefore, const FlowRow& flows) {
+        if (before == now && flowsBefore == flows) {
+            return {};  // as nearly all are
+        }
         Items items{head};
         for (const auto& [name, member] : NamedFields) {
             const auto value = [&](const PhaseRecord& phase) {
@@ -198,7 +201,7 @@ private:
                                 NumberText(flows[first]));
             }
         }
-        return items.size() == 1 ? Items{} : items;
+        return items;
     }
 
     std::vector<std::pair<std::string, std::string>> facts;  // the same names each time
