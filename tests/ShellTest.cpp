@@ -1,6 +1,7 @@
 // Where no user gets: steps of the start that fail, states that no act leads to, paths of any
 // bytes.
 #include "TestForm.h"
+#include "editing/FieldHandlers.h"
 #include "record/WorkingCopy.h"
 #include "rules/Activation.h"
 
@@ -66,6 +67,14 @@ TEST_F(FormTest, ADisplayBeyondTheTablesIsToldAndEnds) {
         told += message.text.substr(0, message.text.find(':')) + '.';
     }
     EXPECT_EQ(told, "RecordEdit ShowData error.RecordEdit DataActivate error.");
+}
+
+TEST_F(FormTest, AControlThatIsNoBoxTakesNoSelectionAlong) {
+    form.txtLoc.TakeFocus();
+    form.txtLoc.Select(1, 1);
+    form.cmdHelp.TakeFocus();
+    SelectActiveText(form);
+    EXPECT_EQ(form.txtLoc.SelLength(), 1U);
 }
 
 TEST(FlowDurationsTest, EveryRunStartsWithTheSameDraw) {

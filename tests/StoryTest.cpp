@@ -67,7 +67,7 @@ private:
 class Scene : public FormTest {
 public:
     Scene() {
-        platform.dataPath = folder / "";
+        platform.dataPath = leftOut = folder / "";
         platform.whileMessageShows = [this] { HearMessage(); };
         form.random = [this] { return Draw(); };
         before = Look();

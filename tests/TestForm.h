@@ -71,9 +71,16 @@ private:
     Form& form;
 };
 
+/// Shows paths without the folder that it is told to leave out.
 class TestPathHelper : public PathHelper {
 public:
-    std::string DisplayPath(const std::string& path, int) override { return path; }
+    explicit TestPathHelper(std::string itsFolder) : folder(std::move(itsFolder)) {}
+    std::string DisplayPath(const std::string& path, int) override {
+        return path.starts_with(folder) ? path.substr(folder.size()) : path;
+    }
+
+private:
+    std::string folder;
 };
 
 class TestSettings : public SettingsStore {
@@ -131,6 +138,7 @@ protected:
     RecordEdit& form = *owner;
     TestPlatform platform{form};
     TempFolder folder;
+    std::string leftOut;  // of paths on show
 
     /// Brings the form up as the program does.
     void Load() {
@@ -138,7 +146,7 @@ protected:
                          &platform,
                          &platform,
                          &platform,
-                         [] { return std::make_unique<TestPathHelper>(); },
+                         [this] { return std::make_unique<TestPathHelper>(leftOut); },
                          [this] { return std::make_unique<TestSettings>(platform.dataPath); },
                          "/opt/tephrex"};
         Wire(form);
