@@ -177,12 +177,12 @@ private:
             return {};  // as nearly all are
         }
         Items items{head};
-        for (const auto& [name, member] : NamedFields) {
-            const auto value = [&](const PhaseRecord& phase) {
-                return std::visit([&](auto each) -> double { return phase.*each; }, member);
+        for (const auto& field : NamedFields) {
+            const auto in = [&field](const PhaseRecord& phase) {
+                return std::visit([&](auto each) -> double { return phase.*each; }, field.second);
             };
-            if (value(before) != value(now) && now != PhaseRecord{}) {
-                items.push_back(name + ' ' + NumberText(value(now)));
+            if (in(before) != in(now) && now != PhaseRecord{}) {
+                items.push_back(field.first + ' ' + NumberText(in(now)));
             }
         }
         if (before != now && now == PhaseRecord{}) {
