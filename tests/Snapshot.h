@@ -97,12 +97,13 @@ public:
             const std::string_view rest = std::string_view(text).substr(at);
             if (rest.starts_with(folder) && rest != folder) {
                 at += folder.size() - 1;
-            } else if (rest.front() > 0x1F || (rest.front() < 0 && rest.front() != '\xFF')) {
-                shown += rest.front();
+            } else if (const auto byte = static_cast<unsigned char>(rest.front());
+                       byte < 0x20 || byte == 0xFF) {
+                std::array<char, 5> hex{};
+                std::snprintf(hex.data(), hex.size(), "\\x%02X", unsigned{byte});
+                shown += hex.data();
             } else {
-                const int byte = static_cast<unsigned char>(rest.front());
-                shown += std::string("\\x") + "0123456789ABCDEF"[byte / 16] +
-                         "0123456789ABCDEF"[byte % 16];
+                shown += rest.front();
             }
         }
         return text.empty() ? "\"\"" : text == folder ? "the folder" : shown;
