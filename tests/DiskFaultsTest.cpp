@@ -58,18 +58,15 @@ protected:
         file >> word >> bytes;
         return bytes;
     }
-    bool Opens(const std::string& path) {
+    // Whether a button does its work with a file of that name: then Save rests.
+    bool Works(CommandButton& button, const std::string& path) {
         form.txtWind.PressKey("10");
         platform.answers = {path};
-        form.cmdOpen.Press();
+        button.Press();
         return !form.Command2.Enabled();
     }
-    bool Saves(const std::string& path) {
-        form.txtWind.PressKey("10");
-        platform.answers = {path};
-        form.Command2.Press();
-        return !form.Command2.Enabled();
-    }
+    bool Opens(const std::string& path) { return Works(form.cmdOpen, path); }
+    bool Saves(const std::string& path) { return Works(form.Command2, path); }
     bool SavesWithin(decltype(RLIMIT_FSIZE) resource, rlim_t amount) {
         rlimit before{};
         getrlimit(resource, &before);

@@ -1,12 +1,13 @@
 // The text form of a record: what reads, what it leaves, and what is written byte for byte.
-#include <regex>
-
 #include "TestForm.h"
 
 namespace {
 
-std::string Replaced(const std::string& text, const std::string& from, const std::string& to) {
-    return std::regex_replace(text, std::regex(from), to);
+std::string Replaced(std::string text, const std::string& from, const std::string& to) {
+    for (std::size_t at = 0; (at = text.find(from, at)) != std::string::npos; at += to.size()) {
+        text.replace(at, from.size(), to);
+    }
+    return text;
 }
 
 // clang-format off
@@ -30,7 +31,8 @@ const std::pair<std::string, std::string> ChangesOfTheFormOnly[] = {
     {"@", ""}, {"\r\n", "\n"}, {"\r\n", "\r"}, {"\r\n", "  \r\n"}, {",", "\n"}, {",", "  ,   "},
     {"12.5,", "12.5 "}, {"12.5", "+.125E2"}, {"2000", "\"2.e+3\" dropped \"this"}, {",0", ",-0"},
     {"\"Record Phase: \"", " any words "}, {"\"Recorded phases\"", "\"a,\r\nb\""},
-    {".*,\"\"", "\xEF\xBB\xBFit, "}, {": \",2\r\n", "\",-8 "}, {"1200\r\n", "1200"},
+    {"\"Stratigraphic file:\",\"\"", "\xEF\xBB\xBFit, "}, {": \",2\r\n", "\",-8 "},
+    {"1200\r\n", "1200"},
     {"0\r\n300\r\n", "0,300\r"}, {"1200\r\n", "1200 \"more,\n\n" + std::string(1 << 17, 'x')}};
 // clang-format on
 
