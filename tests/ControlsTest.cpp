@@ -64,6 +64,10 @@ TEST_F(ControlsTest, AnActRaisesItsEventsBehindStoringAndTellingTheObserver) {
         }
     }
     EXPECT_EQ(form.ActiveControl(), &box);
+    form.cmbFlow.SetVisible(true);
+    log.clear();
+    form.cmbFlow.Pick(1);  // no such entry
+    EXPECT_EQ(form.cmbFlow.Text() + log, "y");
 }
 
 TEST_F(ControlsTest, CodePassesClosedDoorsAndASetterThatChangesNothingRaisesNothing) {
