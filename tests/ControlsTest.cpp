@@ -93,8 +93,9 @@ TEST_F(ControlsTest, CodePassesClosedDoorsAndASetterThatChangesNothingRaisesNoth
     form.cmbFlow.RemoveItem(0);
     EXPECT_THROW(form.cmbFlow.RemoveItem(1), std::out_of_range);
     EXPECT_EQ(form.cmbFlow.Text() + form.cmbFlow.Entries().at(0), "yy");
+    form.cmbFlow.SetText("");
     box.SetText("");
-    form.cmbFlow.Clear();
+    form.cmbFlow.Clear();  // of entries alone
     form.cmbFlow.Clear();
     EXPECT_EQ(log, "[cmbFlow][added]Change[cmbFlow][removed]Change[cmbFlow][]Change[cmbFlow]");
     EXPECT_EQ(form.cmbFlow.Text(), "");
