@@ -69,33 +69,6 @@ TEST_F(FormTest, ADisplayBeyondTheTablesIsToldAndEnds) {
     EXPECT_EQ(told, "RecordEdit ShowData error.RecordEdit DataActivate error.");
 }
 
-/// Tells when it comes and goes.
-template <class Library>
-class Told : public Library {
-public:
-    Told(std::string& theLog, char itsName) : Library(""), log(theLog), name(itsName) {
-        log += name;
-    }
-    ~Told() override { log += name; }
-
-private:
-    std::string& log;
-    char name;
-};
-
-TEST_F(FormTest, TheLibraryObjectsComeAndGoInOrder) {
-    std::string log;
-    form.services.createPathHelper = [&] {
-        return std::make_unique<Told<TestPathHelper>>(log, 'P');
-    };
-    form.services.createSettingsStore = [&] {
-        return std::make_unique<Told<TestSettings>>(log, 'S');
-    };
-    Form_Load(form);
-    form.Command1.Press();
-    EXPECT_EQ(log, "PSPS");
-}
-
 TEST_F(FormTest, TheFirstTypeOfReferencesIsOfferedWhicheverWasChosenBefore) {
     form.CD1.FilterIndex = 2;
     form.cmdChange.Press();
