@@ -39,7 +39,9 @@ TEST_F(FormTest, AStepOfTheStartThatFailsIsSkipped) {
     ReadData(*bare);
     EXPECT_EQ(bare->labRecfile.Caption(), "a.rec");
     bare->services.createSettingsStore = {};
+    bare->settingsStore.reset();
     Form_Load(*bare);
+    EXPECT_EQ(bare->DataPath, "/data");
     EXPECT_EQ(bare->labRecfile.Caption(), "a.rec");
 }
 

@@ -16,8 +16,7 @@ int FindNumber(std::string_view text, std::string_view front, std::string_view b
     const char* const end = text.data() + text.size();
     const auto [stop, error] = std::from_chars(text.data(), end, number);
     // An entry has neither a leading zero nor a sign.
-    const bool plain = error == std::errc{} && stop == end && text.front() >= '1' &&
-                       text.front() <= '9' && number <= last;
+    const bool plain = error == std::errc{} && stop == end && text.front() >= '1' && number <= last;
     return plain ? number : 0;
 }
 
