@@ -44,7 +44,7 @@ Conversion Convert(std::string_view text, Number& value) {
     Number magnitude = 0;
     const char* const last = text.data() + text.size();
     const auto [end, error] = std::from_chars(text.data(), last, magnitude);
-    if (end != last || error == std::errc::invalid_argument) {
+    if (end != last) {
         return Conversion::NoNumber;
     }
     if (error == std::errc::result_out_of_range) {
