@@ -9,11 +9,16 @@ class ControlsTest : public testing::Test {
 protected:
     RecordEdit form;
     TextBox& box = form.txtLoc;
-    std::string log;  // the events, and in brackets what the observer is told, with the text then
+    std::string log;  // the events, and in brackets what the observer is told and finds then
 
     ControlsTest() {
         form.Observer = [this](Control& told) {
-            const std::string token = '[' + (&told == &box ? box.Text() : told.Name()) + ']';
+            const std::string entries = std::to_string(form.cmbFlow.Entries().size());
+            const std::string token = '[' +
+                                      (&told == &box            ? box.Text()
+                                       : &told == &form.cmbFlow ? "cmbFlow" + entries
+                                                                : told.Name()) +
+                                      ']';
             log += log.ends_with(token) ? "" : token;
         };
         const std::pair<Event*, const char*> events[] = {
@@ -45,7 +50,7 @@ TEST_F(ControlsTest, AnActRaisesItsEventsBehindStoringAndTellingTheObserver) {
         {"toggle chkCald, toggle chkCald", "[chkCald]Check[chkCald]Check"},
         {"choose optLarge, choose optLarge", "[optLarge]Large"},
         {"choose optSmall", "[optSmall][optLarge]Small"},
-        {"pick cmbFlow x, pick cmbFlow x, type cmbFlow y", "[cmbFlow]PickPick[cmbFlow]"},
+        {"pick cmbFlow x, pick cmbFlow x, type cmbFlow y", "[cmbFlow1]PickPick[cmbFlow1]"},
         {"press cmdHelp, press cmdHelp", "PressPress"},
         {"focus txtLoc, focus txtLoc", "Focus"},
         {"focus cmbFlow, focus txtLoc, mouse txtLoc", "FocusMouse"}};
@@ -80,7 +85,7 @@ TEST_F(ControlsTest, CodePassesClosedDoorsAndASetterThatChangesNothingRaisesNoth
         form.cmdHelp.SetCaption("c");
         form.cmbFlow.SetText("y");
     }
-    EXPECT_EQ(log, "[a]Change[chkCald]Check[optLarge]Large[cmdHelp][cmbFlow]");
+    EXPECT_EQ(log, "[a]Change[chkCald]Check[optLarge]Large[cmdHelp][cmbFlow0]");
     form.chkCald.SetValue(2);
     EXPECT_EQ(form.chkCald.Value(), 0);
     log.clear();
@@ -95,7 +100,7 @@ TEST_F(ControlsTest, CodePassesClosedDoorsAndASetterThatChangesNothingRaisesNoth
     box.SetText("");
     form.cmbFlow.Clear();  // of entries alone
     form.cmbFlow.Clear();
-    EXPECT_EQ(log, "[cmbFlow][added]Change[cmbFlow][removed]Change[cmbFlow][]Change[cmbFlow]");
+    EXPECT_EQ(log, "[cmbFlow1][added]Change[cmbFlow2][removed]Change[cmbFlow1][]Change[cmbFlow0]");
     EXPECT_EQ(form.cmbFlow.Text(), "");
 }
 
@@ -119,10 +124,14 @@ TEST_F(ControlsTest, AHandlerThatRewritesItsBoxReadsTheNewTextAndTheSelectionSta
 TEST_F(FormTest, TheCatalogueHoldsTheControlsOfTheForm) {
     std::vector<int> kinds(8);
     int places = 0;
+    std::string captions;
     for (const CatalogueRow& row : Catalogue()) {
         EXPECT_TRUE(row.frame.empty() || dynamic_cast<Frame*>(form.Find(row.frame))) << row.name;
         places += row.left + 2 * row.top + 3 * row.width + 4 * row.height + 5 * row.tab;
         ++kinds.at(static_cast<std::size_t>(row.kind));
+        if (row.kind != Kind::Label && !row.caption.empty()) {
+            captions += std::string(row.caption) + '|';
+        }
     }
     for (const auto& names : {LabelsOf(), SpokenNames(), ToolTips()}) {
         for (const NamedText& name : names) {
@@ -131,6 +140,10 @@ TEST_F(FormTest, TheCatalogueHoldsTheControlsOfTheForm) {
     }
     EXPECT_EQ(kinds, (std::vector{4, 28, 22, 5, 3, 3, 8, 1}));
     EXPECT_EQ(places, 777270);  // none has moved unnoticed
+    EXPECT_EQ(captions,
+              "File|Primary Parameters|Cancel|OK|Help|Advanced Parameters|Mapping Parameters|"
+              "Stratigraphic File|Large|Normal|Small|Select Phase|Caldera Style|Caldera:|Directed:|"
+              "Explosive bursts:|Select Parameters|Delete|Down Side|Add|Flow Duration|Reset|");
 }
 
 }  // namespace
