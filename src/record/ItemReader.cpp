@@ -60,20 +60,20 @@ bool ItemReader::Is(std::size_t position, unsigned kinds) const {
     return (Kinds[static_cast<unsigned char>(buffer[position])] & kinds) != 0;
 }
 
-// A number as files mostly have it, up to the next separator in the buffer, needs no second look.
-// False, and nothing taken, for any other item.
+// A number as files mostly have it, with its separator in the buffer, needs no second look. False,
+// and nothing taken, for any other item.
 template <class Number>
 bool ItemReader::ReadInPlace(Number& value) {
     PassBehind();
     Number number = 0;
     const auto [stop, error] = std::from_chars(buffer.data() + at, buffer.data() + end, number);
     const auto after = static_cast<std::size_t>(stop - buffer.data());
-    const bool plain =
-        error == std::errc{} && std::isfinite(number) && after < end && Is(after, Comma | LineEnd);
+    const bool plain = error == std::errc{} && std::isfinite(number) && after + 1 < end &&
+                       Is(after, Comma | LineEnd);
     if (plain) {
         value = number;
         at = after;
-        behind = Behind::Separator;
+        TakeSeparator();
     }
     return plain;
 }
@@ -114,9 +114,12 @@ void ItemReader::PassBehind() {
     } else if (left == Behind::Separator && More() && Is(at, Blank)) {
         SkipWhile([this] { return Is(at, Blank); });
     }
-    if (left == Behind::Nothing || !More() || !Is(at, Comma | LineEnd)) {
-        return;
+    if (left != Behind::Nothing && More() && Is(at, Comma | LineEnd)) {
+        TakeSeparator();
     }
+}
+
+void ItemReader::TakeSeparator() {
     const char separator = buffer[at++];
     if (separator == '\r' && More() && buffer[at] == '\n') {
         ++at;

@@ -48,6 +48,7 @@ private:
     Number Convert();
     std::string_view Next(unsigned ends);
     void PassBehind();
+    void TakeSeparator();
     template <class Condition>
     void SkipWhile(Condition condition);
     std::size_t Measure(unsigned ends);
