@@ -25,7 +25,6 @@ public:
         const QStringList filters = NameFilters(dialog.Filter);
         setNameFilters(filters);
         selectNameFilter(filters.value(dialog.FilterIndex - 1));
-        setHistory({});  // of other programs and other days
     }
 
 protected:
