@@ -48,7 +48,10 @@ await() {
     wait_until window_named "$1"
     xdotool windowactivate --sync "$(window_named "$1" | tail -n 1)" 2>/dev/null || true
 }
-await_gone() { wait_until no_window_named "$1"; }
+await_gone() {
+    wait_until no_window_named "$1"
+    xdotool windowactivate --sync "$form" 2>/dev/null || true # a click before that can get lost
+}
 
 # start_editor PROGRAM [DATA_FOLDER]: with a home of its own, which nothing of the user's reaches,
 # and without a data folder with no settings of its own.
