@@ -84,14 +84,16 @@ bool QuietPlatform::AskOpen(CommonDialog& dialog) {
     return true;
 }
 
-QuietForm::QuietForm() {
-    form.services.messages = &platform;
-    form.services.dialogs = &platform;
-    form.services.help = &platform;
-    form.services.window = &platform;
+void QuietPlatform::Load(RecordEdit& form, Window& window) {
+    form.services.messages = this;
+    form.services.dialogs = this;
+    form.services.help = this;
+    form.services.window = &window;
     Wire(form);
     Form_Load(form);
 }
+
+QuietForm::QuietForm() { platform.Load(form, platform); }
 
 void QuietForm::Open(const RecordOnDisk& record) {
     platform.answer = record.Path();

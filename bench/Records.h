@@ -32,6 +32,9 @@ class QuietPlatform : public MessageBoxes, public FileDialogs, public HelpViewer
 public:
     std::string answer;
 
+    /// Loads the form on this platform, in that window.
+    void Load(RecordEdit& form, Window& window);
+
     void Show(const std::string&, MessageIcon, std::string_view) override {}
     bool AskOpen(CommonDialog& dialog) override;
     bool AskSave(CommonDialog&) override { return false; }

@@ -2,17 +2,7 @@
 
 #include <QPushButton>
 
-#include "form/Wiring.h"
-#include "shell/Startup.h"
-
-WindowForm::WindowForm() {
-    form.services.messages = &platform;
-    form.services.dialogs = &platform;
-    form.services.help = &platform;
-    form.services.window = &window;
-    Wire(form);
-    Form_Load(form);
-}
+WindowForm::WindowForm() { platform.Load(form, window); }
 
 void WindowForm::Open(const std::string& path) {
     platform.answer = path;
