@@ -5,7 +5,6 @@
 #include <QAccessibleWidget>
 #include <QLineEdit>
 
-#include "window/FormWindow.h"
 #include "window/ListBox.h"
 
 namespace {

@@ -9,27 +9,26 @@
 #include <utility>
 
 #include "window/Access.h"
-#include "window/Pictures.h"
 #include "window/Scale.h"
 #include "window/ScreenText.h"
 #include "window/Shortcuts.h"
+#include "window/Views.h"
 
 namespace {
 
-bool TakesFocus(const Picture& picture) {
-    return picture.Row().kind != Kind::Label && picture.Row().kind != Kind::Frame;
+bool TakesFocus(const View& view) {
+    return view.Row().kind != Kind::Label && view.Row().kind != Kind::Frame;
 }
 
-std::vector<Picture*> InTabOrder(const Pictures& pictures) {
-    std::vector<Picture*> sorted;
-    for (const auto& picture : pictures) {
-        if (TakesFocus(*picture)) {
-            sorted.push_back(picture.get());
+std::vector<View*> InTabOrder(const Views& views) {
+    std::vector<View*> sorted;
+    for (const auto& view : views) {
+        if (TakesFocus(*view)) {
+            sorted.push_back(view.get());
         }
     }
-    std::sort(sorted.begin(), sorted.end(), [](const Picture* one, const Picture* other) {
-        return one->Row().tab < other->Row().tab;
-    });
+    std::sort(sorted.begin(), sorted.end(),
+              [](const View* one, const View* other) { return one->Row().tab < other->Row().tab; });
     return sorted;
 }
 
@@ -49,13 +48,13 @@ FormWindow::FormWindow(RecordEdit& ownForm) : form(ownForm) {
     setWindowTitle(ToScreen(FormCaption));
 
     DescribeWidgets();
-    MakePictures();
-    scale = FittingScale(pictures);
+    MakeViews();
+    scale = FittingScale(views);
     setFixedSize(Pixels(FormWidth), Pixels(FormHeight));
-    PlacePictures();
-    StackPictures();
+    PlaceViews();
+    StackViews();
     ChainTabs();
-    NamePictures();
+    NameViews();
     AddShortcuts(*this, form, mirror);
 
     form.Observer = [this](Control& control) {
@@ -72,46 +71,46 @@ FormWindow::~FormWindow() {
     disconnect(qApp, nullptr, this, nullptr);  // the widgets lose the focus as they go
 }
 
-void FormWindow::MakePictures() {
+void FormWindow::MakeViews() {
     for (const CatalogueRow& row : Catalogue()) {
-        Picture* const frame = Find(row.frame);
+        View* const frame = Find(row.frame);
         QWidget* const parent = frame != nullptr ? &frame->Widget() : this;
         Control& control = *form.Find(row.name);
-        if (auto picture = NewPicture({control, row, parent, mirror})) {
-            mirror.Mark(*picture);
-            byControl.emplace(&control, picture.get());
-            pictures.push_back(std::move(picture));
+        if (auto view = NewView({control, row, parent, mirror})) {
+            mirror.Mark(*view);
+            byControl.emplace(&control, view.get());
+            views.push_back(std::move(view));
         }
     }
 }
 
-void FormWindow::PlacePictures() {
-    for (const auto& picture : pictures) {
-        const CatalogueRow& row = picture->Row();
+void FormWindow::PlaceViews() {
+    for (const auto& view : views) {
+        const CatalogueRow& row = view->Row();
         if (const int covered = CoveredWidth(row); covered > 0) {
-            picture->Widget().setContentsMargins(0, 0, Pixels(covered), 0);
+            view->Widget().setContentsMargins(0, 0, Pixels(covered), 0);
         }
-        picture->Widget().setGeometry(Pixels(row.left), Pixels(row.top), Pixels(row.width),
-                                      Pixels(row.height));
+        view->Widget().setGeometry(Pixels(row.left), Pixels(row.top), Pixels(row.width),
+                                   Pixels(row.height));
     }
 }
 
 // Labels lie beneath all else; of two others the one later in the tab order lies above.
-void FormWindow::StackPictures() {
-    for (const Picture* picture : InTabOrder(pictures)) {
-        picture->Widget().raise();
+void FormWindow::StackViews() {
+    for (const View* view : InTabOrder(views)) {
+        view->Widget().raise();
     }
 }
 
 void FormWindow::ChainTabs() {
-    const std::vector<Picture*> chain = InTabOrder(pictures);
+    const std::vector<View*> chain = InTabOrder(views);
     for (std::size_t i = 1; i < chain.size(); ++i) {
         setTabOrder(&chain[i - 1]->Widget(), &chain[i]->Widget());
     }
 }
 
 // By these names a reader of the screen calls the controls that have no caption.
-void FormWindow::NamePictures() {
+void FormWindow::NameViews() {
     for (const NamedText& row : LabelsOf()) {
         if (auto* const label = qobject_cast<QLabel*>(&Find(row.text)->Widget())) {
             label->setBuddy(&Find(row.control)->Widget());
@@ -150,7 +149,7 @@ bool FormWindow::event(QEvent* event) {
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {
-    const Mirror::Act act(mirror);
+    const Mirror::UserAction action(mirror);
     if (!std::exchange(unloaded, true) && form.Unload) {
         form.Unload();
     }
@@ -158,23 +157,21 @@ void FormWindow::closeEvent(QCloseEvent* event) {
 }
 
 void FormWindow::FollowFocus(QWidget* now) {
-    const auto holds = [now](const auto& picture) {
-        return TakesFocus(*picture) &&
-               (&picture->Widget() == now || picture->Widget().isAncestorOf(now));
+    const auto holds = [now](const auto& view) {
+        return TakesFocus(*view) && (&view->Widget() == now || view->Widget().isAncestorOf(now));
     };
-    const auto found = std::find_if(pictures.begin(), pictures.end(), holds);
-    if (found != pictures.end()) {
-        const Mirror::Act act(mirror);
+    const auto found = std::find_if(views.begin(), views.end(), holds);
+    if (found != views.end()) {
+        const Mirror::UserAction action(mirror);
         mirror.Mark(**found);  // a box shows its selection only while it has the focus
         (*found)->Original().TakeFocus();
     }
 }
 
-Picture* FormWindow::Find(std::string_view name) const {
-    const auto found = std::find_if(pictures.begin(), pictures.end(), [name](const auto& picture) {
-        return picture->Row().name == name;
-    });
-    return found == pictures.end() ? nullptr : found->get();
+View* FormWindow::Find(std::string_view name) const {
+    const auto found = std::find_if(views.begin(), views.end(),
+                                    [name](const auto& view) { return view->Row().name == name; });
+    return found == views.end() ? nullptr : found->get();
 }
 
 int FormWindow::Pixels(int twips) const { return static_cast<int>(std::lround(twips * scale)); }

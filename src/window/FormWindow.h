@@ -1,5 +1,5 @@
-// The window that carries the form: it makes the pictures as the catalogue says and leads the
-// toolkit's events and the form's changes together. How one control looks stands in Pictures.
+// The window that carries the form: it makes the views as the catalogue says and leads the
+// toolkit's events and the form's changes together. How one control looks stands in Views.
 #pragma once
 
 #include <QIcon>
@@ -10,7 +10,7 @@
 #include "form/RecordEdit.h"
 #include "shell/Services.h"
 #include "window/Mirror.h"
-#include "window/Picture.h"
+#include "window/View.h"
 
 /// The form's icon, which serves all windows of the program.
 QIcon FormIcon();
@@ -36,21 +36,21 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
-    void MakePictures();
-    void PlacePictures();
-    void StackPictures();
+    void MakeViews();
+    void PlaceViews();
+    void StackViews();
     void ChainTabs();
-    void NamePictures();
+    void NameViews();
     void FollowFocus(QWidget* now);
 
-    Picture* Find(std::string_view name) const;
+    View* Find(std::string_view name) const;
     int Pixels(int twips) const;
     Extent Twips(QSize pixels) const;
 
     RecordEdit& form;
     Mirror mirror;
-    Pictures pictures;
-    std::unordered_map<const Control*, Picture*> byControl;
+    Views views;
+    std::unordered_map<const Control*, View*> byControl;
     double scale = 0;  // logical pixels to the twip
     bool unloaded = false;
 };

@@ -2,22 +2,20 @@
 
 #include <algorithm>
 
-#include "window/Picture.h"
-
-Mirror::Act::~Act() {
+Mirror::UserAction::~UserAction() {
     if (--mirror.depth == 0) {
         mirror.BringUpToDate();
     }
 }
 
-void Mirror::Mark(Picture& picture) {
-    if (std::find(marked.begin(), marked.end(), &picture) != marked.end()) {
+void Mirror::Mark(Mirrored& view) {
+    if (std::find(marked.begin(), marked.end(), &view) != marked.end()) {
         return;
     }
     if (marked.empty() && depth == 0 && !updating) {
         QMetaObject::invokeMethod(this, &Mirror::BringUpToDate, Qt::QueuedConnection);
     }
-    marked.push_back(&picture);
+    marked.push_back(&view);
 }
 
 void Mirror::BringUpToDate() {
@@ -27,13 +25,13 @@ void Mirror::BringUpToDate() {
     updating = true;
     // The focus leaves a widget that becomes disabled, and marks more by what it sets off. It goes
     // to the next enabled widget: so those of enabled controls come first.
-    const auto enabled = [](const Picture* picture) { return picture->Original().Enabled(); };
+    const auto enabled = [](const Mirrored* view) { return view->IsEnabled(); };
     while (!marked.empty()) {
         const auto found = std::find_if(marked.begin(), marked.end(), enabled);
         const auto next = found != marked.end() ? found : marked.begin();
-        Picture& picture = **next;
+        Mirrored& view = **next;
         marked.erase(next);
-        picture.Update();
+        view.Update();
     }
     updating = false;
 }

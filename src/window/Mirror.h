@@ -1,39 +1,51 @@
-// When pictures are brought up to date: as soon as the user's act has ended, and not once for
-// each change within it. What a picture shows is none of its business.
+// When views are brought up to date: as soon as the user action has ended, and not once for each
+// change within it. What a view shows is none of its business.
 #pragma once
 
 #include <QObject>
 #include <vector>
 
-class Picture;
+/// What the mirror brings up to date: the view of one control.
+class Mirrored {
+public:
+    virtual ~Mirrored() = default;
+    virtual void Update() = 0;
+    /// Whether the control is enabled, which the widget may not show yet.
+    virtual bool IsEnabled() const = 0;
+
+protected:
+    Mirrored() = default;
+    Mirrored(const Mirrored&) = default;
+    Mirrored& operator=(const Mirrored&) = default;
+};
 
 class Mirror : public QObject {
 public:
-    /// Stands in every function through which the toolkit brings an act of the user. Acts nest;
-    /// the marked pictures are brought up to date when the outermost one ends.
-    class Act {
+    /// Lives in every function through which the toolkit delivers a user action. They nest; the
+    /// marked views are brought up to date when the outermost one ends.
+    class UserAction {
     public:
-        explicit Act(Mirror& ownMirror) : mirror(ownMirror) { ++mirror.depth; }
-        Act(const Act&) = delete;
-        Act& operator=(const Act&) = delete;
-        ~Act();
+        explicit UserAction(Mirror& ownMirror) : mirror(ownMirror) { ++mirror.depth; }
+        UserAction(const UserAction&) = delete;
+        UserAction& operator=(const UserAction&) = delete;
+        ~UserAction();
 
     private:
         Mirror& mirror;
     };
 
-    /// The control of this picture has changed. Outside of any act the picture follows as soon as
-    /// the toolkit has time for it.
-    void Mark(Picture& picture);
+    /// The control of this view has changed. Outside of any user action the view follows as soon
+    /// as the toolkit has time for it.
+    void Mark(Mirrored& view);
 
-    /// Brings all marked pictures up to date, with those that are marked in the course of it.
+    /// Brings all marked views up to date, with those that are marked in the course of it.
     void BringUpToDate();
 
-    /// A signal that a widget gives meanwhile is an echo of the mirror and no act of the user.
+    /// A signal that a widget gives meanwhile is an echo of the mirror and no user action.
     bool Updating() const { return updating; }
 
 private:
-    std::vector<Picture*> marked;
+    std::vector<Mirrored*> marked;
     int depth = 0;
     bool updating = false;
 };

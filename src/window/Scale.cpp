@@ -90,14 +90,14 @@ QStringList TextsToFit(const CatalogueRow& row) {
     return texts;
 }
 
-double FittingScale(const Pictures& pictures) {
+double FittingScale(const Views& views) {
     double scale = UsualScale;
-    for (const auto& picture : pictures) {
-        const CatalogueRow& row = picture->Row();
+    for (const auto& view : views) {
+        const CatalogueRow& row = view->Row();
         const double width = row.width - CoveredWidth(row);
         const double height = Headroom(row);
         for (const QString& text : TextsToFit(row)) {
-            const QSize size = picture->SizeWith(text);
+            const QSize size = view->SizeWith(text);
             scale = std::max({scale, size.width() / width, size.height() / height});
         }
     }

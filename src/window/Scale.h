@@ -4,12 +4,12 @@
 
 #include <QStringList>
 
-#include "window/Picture.h"
+#include "window/View.h"
 
 /// Logical pixels to the twip: 96 pixels to the inch, enlarged until the widgets cut off no
 /// caption, list entry or value in range in the font that they have. The widgets are left with
-/// other texts; their pictures have to be brought up to date.
-double FittingScale(const Pictures& pictures);
+/// other texts; their views have to be brought up to date.
+double FittingScale(const Views& views);
 
 /// The texts that a control shows at its start and later, or the widest of them. Paths, of any
 /// length, are not among them.

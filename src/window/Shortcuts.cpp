@@ -22,7 +22,7 @@ void PickPhase(RecordEdit& form, int number) {
 void AddShortcuts(QWidget& window, RecordEdit& form, Mirror& mirror) {
     struct Row {
         QKeyCombination key;
-        std::function<void()> act;
+        std::function<void()> run;
         bool repeats = false;
     };
     const Row rows[]{
@@ -36,9 +36,9 @@ void AddShortcuts(QWidget& window, RecordEdit& form, Mirror& mirror) {
     for (const Row& row : rows) {
         auto* const shortcut = new QShortcut(QKeySequence(row.key), &window);
         shortcut->setAutoRepeat(row.repeats);
-        QObject::connect(shortcut, &QShortcut::activated, &window, [&mirror, act = row.act] {
-            const Mirror::Act users(mirror);
-            act();
+        QObject::connect(shortcut, &QShortcut::activated, &window, [&mirror, run = row.run] {
+            const Mirror::UserAction action(mirror);
+            run();
         });
     }
 }

@@ -1,11 +1,11 @@
-#include "window/Picture.h"
+#include "window/View.h"
 
 #include <QEvent>
 #include <QToolTip>
 
 #include "window/ScreenText.h"
 
-Picture::Picture(const Subject& subject, QWidget& ownWidget)
+View::View(const Subject& subject, QWidget& ownWidget)
     : original(subject.control), row(subject.row), widget(ownWidget), mirror(subject.mirror) {
     widget.setObjectName(ToScreen(row.name));
     widget.setMouseTracking(true);
@@ -13,15 +13,15 @@ Picture::Picture(const Subject& subject, QWidget& ownWidget)
     widget.installEventFilter(this);
 }
 
-void Picture::Update() {
+void View::Update() {
     widget.setToolTip(ToScreen(original.ToolTipText()));
     widget.setVisible(original.Visible());
     widget.setEnabled(original.Enabled());
 }
 
-bool Picture::eventFilter(QObject* watched, QEvent* event) {
+bool View::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::MouseMove) {
-        const Mirror::Act act(mirror);
+        const Mirror::UserAction action(mirror);
         original.MoveMouse();
     }
     if (event->type() == QEvent::ToolTip && widget.toolTip().isEmpty()) {

@@ -1,14 +1,14 @@
-// The pictures of the two kinds of control that hold a text of the user's: the text box and the
+// The views of the two kinds of control that hold a text of the user's: the text box and the
 // combo box.
 #pragma once
 
 #include "window/LineBox.h"
 #include "window/ListBox.h"
-#include "window/Picture.h"
+#include "window/View.h"
 
-class TextBoxPicture : public PictureOf<TextBox, LineBox> {
+class TextBoxView : public ViewOf<TextBox, LineBox> {
 public:
-    explicit TextBoxPicture(const Subject& subject);
+    explicit TextBoxView(const Subject& subject);
 
     void Update() override;
     QSize SizeWith(const QString& text) override { return widget.SizeFor(text); }
@@ -22,9 +22,9 @@ private:
     void ShowSelection();
 };
 
-class ComboBoxPicture : public PictureOf<ComboBox, ListBox> {
+class ComboBoxView : public ViewOf<ComboBox, ListBox> {
 public:
-    explicit ComboBoxPicture(const Subject& subject);
+    explicit ComboBoxView(const Subject& subject);
 
     void Update() override;
     QSize SizeWith(const QString& text) override { return widget.SizeFor(text); }

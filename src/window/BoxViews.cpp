@@ -1,4 +1,4 @@
-#include "window/BoxPictures.h"
+#include "window/BoxViews.h"
 
 #include <QAbstractItemView>
 #include <QCursor>
@@ -13,30 +13,30 @@ constexpr QColor PaleYellow(255, 255, 192);
 
 }  // namespace
 
-TextBoxPicture::TextBoxPicture(const Subject& subject) : PictureOf(subject) {
+TextBoxView::TextBoxView(const Subject& subject) : ViewOf(subject) {
     widget.setAlignment(Qt::AlignCenter);
     connect(&widget, &LineBox::KeyPressed, this, [this] { TakeText(By::Key); });
     connect(&widget, &LineBox::Edited, this, [this] { TakeText(By::OtherMeans); });
     connect(&widget, &LineBox::SelectionMoved, this, [this] {
         if (ShowsText()) {  // or the edit of which this is a part is told in a moment
-            UserActs([this] { TakeSelection(); });
+            OnUserAction([this] { TakeSelection(); });
         }
     });
 }
 
-void TextBoxPicture::Update() {
+void TextBoxView::Update() {
     if (!ShowsText()) {
         widget.setText(ToScreen(control.Text()));
     }
     ShowSelection();
-    Picture::Update();
+    View::Update();
 }
 
-bool TextBoxPicture::ShowsText() const { return widget.text() == ToScreen(control.Text()); }
+bool TextBoxView::ShowsText() const { return widget.text() == ToScreen(control.Text()); }
 
 // Text that the user has left alone keeps the bytes that the control has for it.
-void TextBoxPicture::TakeText(By means) {
-    UserActs([this, means] {
+void TextBoxView::TakeText(By means) {
+    OnUserAction([this, means] {
         const std::string text = ShowsText() ? control.Text() : FromScreen(widget.text());
         const std::size_t caret = BytePlace(text, widget.cursorPosition());
         if (means == By::Key) {
@@ -49,7 +49,7 @@ void TextBoxPicture::TakeText(By means) {
 }
 
 // A widget forgets its selection when the focus leaves it; a control does not.
-void TextBoxPicture::TakeSelection() {
+void TextBoxView::TakeSelection() {
     if (!widget.hasFocus() || !ShowsText()) {
         return;
     }
@@ -60,7 +60,7 @@ void TextBoxPicture::TakeSelection() {
     control.Select(first, BytePlace(control.Text(), end) - first);
 }
 
-void TextBoxPicture::ShowSelection() {
+void TextBoxView::ShowSelection() {
     const std::string& text = control.Text();
     const int start = ScreenPlace(text, control.SelStart());
     const int end = ScreenPlace(text, control.SelStart() + control.SelLength());
@@ -74,7 +74,7 @@ void TextBoxPicture::ShowSelection() {
     }
 }
 
-ComboBoxPicture::ComboBoxPicture(const Subject& subject) : PictureOf(subject) {
+ComboBoxView::ComboBoxView(const Subject& subject) : ViewOf(subject) {
     QPalette pale = PalePalette(widget.palette(), PaleYellow);
     widget.setPalette(pale);  // the frame shows the focus in the desktop's colour
     pale.setColor(QPalette::Highlight, QColor(0, 84, 147));
@@ -86,11 +86,11 @@ ComboBoxPicture::ComboBoxPicture(const Subject& subject) : PictureOf(subject) {
         widget.setCursor(hand);
         widget.lineEdit()->setCursor(hand);  // which has a pointer of its own otherwise
     }
-    connect(&widget, &ListBox::Picked, this, &ComboBoxPicture::TakePick);
-    connect(&widget, &QComboBox::editTextChanged, this, &ComboBoxPicture::TakeText);
+    connect(&widget, &ListBox::Picked, this, &ComboBoxView::TakePick);
+    connect(&widget, &QComboBox::editTextChanged, this, &ComboBoxView::TakeText);
 }
 
-void ComboBoxPicture::Update() {
+void ComboBoxView::Update() {
     QStringList entries;
     for (const std::string& entry : control.Entries()) {
         entries += ToScreen(entry);
@@ -99,17 +99,17 @@ void ComboBoxPicture::Update() {
     if (!ShowsText()) {
         widget.setEditText(ToScreen(control.Text()));
     }
-    Picture::Update();
+    View::Update();
 }
 
-bool ComboBoxPicture::ShowsText() const { return widget.currentText() == ToScreen(control.Text()); }
+bool ComboBoxView::ShowsText() const { return widget.currentText() == ToScreen(control.Text()); }
 
-void ComboBoxPicture::TakeText() {
+void ComboBoxView::TakeText() {
     if (!ShowsText()) {
-        UserActs([this] { control.Type(FromScreen(widget.currentText())); });
+        OnUserAction([this] { control.Type(FromScreen(widget.currentText())); });
     }
 }
 
-void ComboBoxPicture::TakePick(int position) {
-    UserActs([this, position] { control.Pick(static_cast<std::size_t>(position)); });
+void ComboBoxView::TakePick(int position) {
+    OnUserAction([this, position] { control.Pick(static_cast<std::size_t>(position)); });
 }

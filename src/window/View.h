@@ -1,6 +1,6 @@
-// A picture: one control on the screen. It brings a widget up to date with its control, and hands
+// A view: one control on the screen. It brings a widget up to date with its control, and hands
 // what the user does with the widget to the control's doors. The classes for the kinds of control
-// stand in Pictures.
+// stand in Views.
 #pragma once
 
 #include <QColor>
@@ -15,7 +15,7 @@
 #include "form/Controls.h"
 #include "window/Mirror.h"
 
-/// What a picture is made of: a control, its row of the catalogue, the widget to sit on.
+/// What a view is made of: a control, its row of the catalogue, the widget to sit on.
 struct Subject {
     Control& control;
     const CatalogueRow& row;
@@ -23,31 +23,32 @@ struct Subject {
     Mirror& mirror;
 };
 
-class Picture : public QObject {
+class View : public QObject, public Mirrored {
 public:
     /// The widget belongs to the subject's parent.
-    Picture(const Subject& subject, QWidget& ownWidget);
+    View(const Subject& subject, QWidget& ownWidget);
 
     Control& Original() const { return original; }
     const CatalogueRow& Row() const { return row; }
     QWidget& Widget() const { return widget; }
 
     /// Brings the widget up to date; what is so already is not touched.
-    virtual void Update();
+    void Update() override;
+    bool IsEnabled() const override { return original.Enabled(); }
 
     /// The smallest size at which the widget cuts nothing off such a text. The widget can be left
     /// with that text until the next update.
     virtual QSize SizeWith(const QString& text) = 0;
 
 protected:
-    /// An act of the user that arrived through the widget, unless it is an echo. The control may
-    /// refuse it, so the picture is brought up to date in any case.
-    template <class Deed>
-    void UserActs(Deed deed) {
+    /// A user action that arrived through the widget, unless it is an echo. The control may
+    /// refuse it, so the view is brought up to date in any case.
+    template <class Action>
+    void OnUserAction(Action action) {
         if (!mirror.Updating()) {
-            const Mirror::Act act(mirror);
+            const Mirror::UserAction running(mirror);
             mirror.Mark(*this);
-            deed();
+            action();
         }
     }
 
@@ -60,22 +61,21 @@ private:
     Mirror& mirror;
 };
 
-using Pictures = std::vector<std::unique_ptr<Picture>>;
+using Views = std::vector<std::unique_ptr<View>>;
 
-/// A picture that knows the kinds of its control and of its widget.
+/// A view that knows the kinds of its control and of its widget.
 template <class ControlKind, class WidgetKind>
-class PictureOf : public Picture {
+class ViewOf : public View {
 public:
-    explicit PictureOf(const Subject& subject)
-        : PictureOf(subject, *new WidgetKind(subject.parent)) {}
+    explicit ViewOf(const Subject& subject) : ViewOf(subject, *new WidgetKind(subject.parent)) {}
 
 protected:
     ControlKind& control;
     WidgetKind& widget;
 
 private:
-    PictureOf(const Subject& subject, WidgetKind& ownWidget)
-        : Picture(subject, ownWidget),
+    ViewOf(const Subject& subject, WidgetKind& ownWidget)
+        : View(subject, ownWidget),
           control(dynamic_cast<ControlKind&>(subject.control)),
           widget(ownWidget) {}
 };

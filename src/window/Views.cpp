@@ -1,4 +1,4 @@
-#include "window/Pictures.h"
+#include "window/Views.h"
 
 #include <QCheckBox>
 #include <QGroupBox>
@@ -8,20 +8,20 @@
 #include <QRadioButton>
 
 #include "window/Access.h"
-#include "window/BoxPictures.h"
+#include "window/BoxViews.h"
 #include "window/ScreenText.h"
 
 namespace {
 
 constexpr QColor PaleCyan(192, 255, 255);
 
-class FramePicture : public PictureOf<Frame, QGroupBox> {
+class FrameView : public ViewOf<Frame, QGroupBox> {
 public:
-    using PictureOf::PictureOf;
+    using ViewOf::ViewOf;
 
     void Update() override {
         widget.setTitle(ToScreen(control.Caption()));
-        Picture::Update();
+        View::Update();
     }
 
     QSize SizeWith(const QString& text) override {
@@ -30,9 +30,9 @@ public:
     }
 };
 
-class LabelPicture : public PictureOf<Label, QLabel> {
+class LabelView : public ViewOf<Label, QLabel> {
 public:
-    explicit LabelPicture(const Subject& subject) : PictureOf(subject) {
+    explicit LabelView(const Subject& subject) : ViewOf(subject) {
         widget.setTextFormat(Qt::PlainText);
         const bool left = Row().look == Look::LeftAligned;
         widget.setAlignment(Qt::AlignVCenter | (left ? Qt::AlignLeft : Qt::AlignRight));
@@ -57,7 +57,7 @@ public:
         if (widget.buddy() != nullptr) {
             NameAloud(*widget.buddy(), caption);
         }
-        Picture::Update();
+        View::Update();
     }
 
     QSize SizeWith(const QString& text) override {
@@ -69,13 +69,13 @@ private:
     bool IsOutputField() const { return Row().look == Look::OutputField; }
 };
 
-class CheckBoxPicture : public PictureOf<CheckBox, QCheckBox> {
+class CheckBoxView : public ViewOf<CheckBox, QCheckBox> {
 public:
-    explicit CheckBoxPicture(const Subject& subject) : PictureOf(subject) {
+    explicit CheckBoxView(const Subject& subject) : ViewOf(subject) {
         widget.setLayoutDirection(Qt::RightToLeft);  // the box stands behind its caption
         connect(&widget, &QCheckBox::toggled, this, [this](bool checked) {
             if (checked != (control.Value() == 1)) {
-                UserActs([this] { control.Toggle(); });
+                OnUserAction([this] { control.Toggle(); });
             }
         });
     }
@@ -85,7 +85,7 @@ public:
         widget.setText(Shown(caption));
         NameAloud(widget, caption);
         widget.setChecked(control.Value() == 1);
-        Picture::Update();
+        View::Update();
     }
 
     QSize SizeWith(const QString& text) override {
@@ -98,13 +98,13 @@ private:
     static QString Shown(const QString& caption) { return caption + QChar(0x200E); }
 };
 
-class OptionButtonPicture : public PictureOf<OptionButton, QRadioButton> {
+class OptionButtonView : public ViewOf<OptionButton, QRadioButton> {
 public:
-    explicit OptionButtonPicture(const Subject& subject) : PictureOf(subject) {
+    explicit OptionButtonView(const Subject& subject) : ViewOf(subject) {
         widget.setAutoExclusive(false);  // or the Tab key would reach one of the group only
         connect(&widget, &QRadioButton::toggled, this, [this](bool checked) {
             if (checked != control.Value()) {
-                UserActs([this] { control.Choose(); });
+                OnUserAction([this] { control.Choose(); });
             }
         });
     }
@@ -113,7 +113,7 @@ public:
         widget.setText(ToScreen(control.Caption()));
         NameAloud(widget, widget.text());
         widget.setChecked(control.Value());
-        Picture::Update();
+        View::Update();
     }
 
     QSize SizeWith(const QString& text) override {
@@ -122,9 +122,9 @@ public:
     }
 };
 
-class CommandButtonPicture : public PictureOf<CommandButton, QPushButton> {
+class CommandButtonView : public ViewOf<CommandButton, QPushButton> {
 public:
-    explicit CommandButtonPicture(const Subject& subject) : PictureOf(subject) {
+    explicit CommandButtonView(const Subject& subject) : ViewOf(subject) {
         widget.setAutoDefault(true);  // Enter presses the button that has the focus
         if (Row().look == Look::OpenPicture) {
             QIcon icon;
@@ -134,12 +134,12 @@ public:
             widget.setIcon(icon);
         }
         connect(&widget, &QPushButton::clicked, this,
-                [this] { UserActs([this] { control.Press(); }); });
+                [this] { OnUserAction([this] { control.Press(); }); });
     }
 
     void Update() override {
         widget.setText(ToScreen(control.Caption()));
-        Picture::Update();
+        View::Update();
     }
 
     QSize SizeWith(const QString& text) override {
@@ -151,15 +151,15 @@ public:
 
 }  // namespace
 
-std::unique_ptr<Picture> NewPicture(const Subject& subject) {
+std::unique_ptr<View> NewView(const Subject& subject) {
     switch (subject.row.kind) {
-        case Kind::Frame: return std::make_unique<FramePicture>(subject);
-        case Kind::Label: return std::make_unique<LabelPicture>(subject);
-        case Kind::TextBox: return std::make_unique<TextBoxPicture>(subject);
-        case Kind::ComboBox: return std::make_unique<ComboBoxPicture>(subject);
-        case Kind::CheckBox: return std::make_unique<CheckBoxPicture>(subject);
-        case Kind::OptionButton: return std::make_unique<OptionButtonPicture>(subject);
-        case Kind::CommandButton: return std::make_unique<CommandButtonPicture>(subject);
+        case Kind::Frame: return std::make_unique<FrameView>(subject);
+        case Kind::Label: return std::make_unique<LabelView>(subject);
+        case Kind::TextBox: return std::make_unique<TextBoxView>(subject);
+        case Kind::ComboBox: return std::make_unique<ComboBoxView>(subject);
+        case Kind::CheckBox: return std::make_unique<CheckBoxView>(subject);
+        case Kind::OptionButton: return std::make_unique<OptionButtonView>(subject);
+        case Kind::CommandButton: return std::make_unique<CommandButtonView>(subject);
         case Kind::CommonDialog: break;
     }
     return nullptr;
