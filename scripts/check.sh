@@ -14,9 +14,21 @@ if grep -n '#include "window/' "${others[@]}"; then
     echo "Nothing else may include window/"
     exit 1
 fi
-# No circle among the headers: tsort fails on one and names it.
-(cd src && grep -o '#include "[^"]*"' -- */*.h |
-    sed -E 's/^([^:]*):#include "([^"]*)"/\1 \2/' | tsort >/dev/null)
+# The arrows between units: a unit is a header with its source, an arrow is an include.
+(cd src && grep -o '#include "[^"]*"' -- */*.h */*.cpp |
+    sed -E 's/^([^:]*)\.(h|cpp):#include "([^"]*)\.h"/\1 \3/' | awk '$1 != $2' | sort -u) >build/arrows
+# No circle among them: tsort fails on one and names it.
+tsort build/arrows >/dev/null
+# The plain library includes nothing but itself.
+if awk 'NR == FNR { plain[$1]; next } $1 in plain && !($2 in plain)' \
+    src/plain_units.txt build/arrows | grep .; then
+    echo "A plain unit may include plain units only"
+    exit 1
+fi
+# A unit of that list that is gone, or misspelt, would be checked no more.
+while read -r unit; do
+    [ -f "src/$unit.h" ] || { echo "src/plain_units.txt: there is no $unit" && exit 1; }
+done <src/plain_units.txt
 
 printf '%s\n' "${sources[@]}" | grep '^src/.*\.cpp$' |
     xargs -P "$(nproc)" -n 3 clang-tidy -p build/default --quiet --warnings-as-errors='*' \

@@ -4,6 +4,7 @@
 #include "editing/FieldHandlers.h"
 #include "record/WorkingCopy.h"
 #include "rules/Activation.h"
+#include "shell/PathText.h"
 
 namespace {
 

@@ -3,7 +3,6 @@
 #include "display/Limits.h"
 #include "display/ShowData.h"
 #include "editing/Entries.h"
-#include "editing/Fields.h"
 #include "form/ErrorPath.h"
 #include "form/RecordEdit.h"
 

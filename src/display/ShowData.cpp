@@ -104,6 +104,11 @@ void ShowData(RecordEdit& form, Integer pha) {
     });
 }
 
+void ShowFlow(RecordEdit& form, int flow) {
+    form.cmbFlow.SetText(FlowEntry(flow));
+    form.txtLava.SetText(form.TextOf(form.CurrentFlows()[flow], Format::OneDecimal));
+}
+
 void cmbPhase_Click(RecordEdit& form) {
     if (const int named = FindPhase(form.cmbPhase.Text(), form.EditPhaseCount)) {
         form.CurPhase = static_cast<Integer>(named);

@@ -10,5 +10,8 @@ struct RecordEdit;
 /// where it is, with a message.
 void ShowData(RecordEdit& form, Integer pha);
 
+/// Puts flow 1 to 100 of the phase on show: its name in the list, its duration in the box.
+void ShowFlow(RecordEdit& form, int flow);
+
 /// Shows the phase that the phase list names; the same phase again if it names none.
 void cmbPhase_Click(RecordEdit& form);

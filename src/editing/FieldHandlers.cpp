@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <limits>
 
+#include "display/ShowData.h"
 #include "editing/Entries.h"
 #include "rules/EruptionTypes.h"
 #include "rules/FlowDurations.h"

@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "editing/Entries.h"
-
 namespace {
 
 using enum Format;
@@ -45,9 +43,4 @@ constexpr std::array<Field, 20> Fields{{
 const Field& FieldOf(TextBox RecordEdit::*box) {
     return *std::find_if(Fields.begin(), Fields.end(),
                          [box](const Field& field) { return field.box == box; });
-}
-
-void ShowFlow(RecordEdit& form, int flow) {
-    form.cmbFlow.SetText(FlowEntry(flow));
-    form.txtLava.SetText(form.TextOf(form.CurrentFlows()[flow], Format::OneDecimal));
 }

@@ -33,6 +33,3 @@ extern const std::array<Field, 20> Fields;
 
 /// The row of a box; the box must be in the table.
 const Field& FieldOf(TextBox RecordEdit::*box);
-
-/// Puts flow 1 to 100 of the phase on show: its name in the list, its duration in the box.
-void ShowFlow(RecordEdit& form, int flow);

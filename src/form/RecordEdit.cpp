@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "form/Catalogue.h"
+#include "shell/PathText.h"
 
 namespace {
 
@@ -36,8 +37,8 @@ std::string RecordEdit::TextOf(Single number, Format format) const {
     return FormatNumber(number, format, separators);
 }
 
-std::string RecordEdit::DisplayPath(const std::string& path) const {
-    return pathHelper ? pathHelper->DisplayPath(path, 0) : path;
+std::string RecordEdit::ShownPath(const std::string& path) const {
+    return ShortenPath(pathHelper ? pathHelper->DisplayPath(path, 0) : path);
 }
 
 void RecordEdit::ShowMessage(const std::string& text, MessageIcon icon) const {

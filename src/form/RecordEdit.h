@@ -2,7 +2,6 @@
 // the controls do is told by the handlers, where they stand by the catalogue.
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <string>
 
@@ -13,18 +12,6 @@
 #include "shell/Services.h"
 
 constexpr std::string_view ApplicationTitle = "TephrexEdit";
-
-/// The platform as the form sees it. All of it is in place before the form is loaded and stays
-/// until it is unloaded. The program's folder, which the help file is in, has no slash at its end.
-struct Services {
-    MessageBoxes* messages = nullptr;
-    FileDialogs* dialogs = nullptr;
-    HelpViewer* help = nullptr;
-    Window* window = nullptr;
-    std::function<std::unique_ptr<PathHelper>()> createPathHelper;
-    std::function<std::unique_ptr<SettingsStore>()> createSettingsStore;
-    std::string programFolder;
-};
 
 struct RecordEdit : Form, EditorState {
     /// Every control as the catalogue has it before the form is loaded; no event has a handler.
@@ -128,8 +115,9 @@ struct RecordEdit : Form, EditorState {
     Single NumberIn(const TextBox& box) const;
     std::string TextOf(Single number, Format format) const;
 
-    /// The text under which a path is shown; the path itself while there is no path helper.
-    std::string DisplayPath(const std::string& path) const;
+    /// The text under which a path is shown, shortened: what the path helper gives, or the path
+    /// itself while there is no path helper.
+    std::string ShownPath(const std::string& path) const;
 
     void ShowMessage(const std::string& text, MessageIcon icon) const;
 };

@@ -46,7 +46,7 @@ void SaveRec(RecordEdit& form) {
         return;
     }
     form.RecFile = form.CD1.FileName;
-    form.labRecfile.SetCaption(ShownPath(form, form.RecFile));
+    form.labRecfile.SetCaption(form.ShownPath(form.RecFile));
     if (!WriteRecordFile(form.RecFile, form)) {
         form.ShowMessage("Recorder file save error", MessageIcon::Exclamation);
         return;

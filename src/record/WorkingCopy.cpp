@@ -1,9 +1,5 @@
 #include "record/WorkingCopy.h"
 
-#include <cstddef>
-#include <string_view>
-#include <vector>
-
 #include "display/ShowData.h"
 #include "editing/Entries.h"
 #include "form/ErrorPath.h"
@@ -13,9 +9,9 @@ namespace {
 
 void ShowPaths(RecordEdit& form) {
     form.labRecfile.SetCaption(form.RecFile.empty() ? std::string(NewRecordCaption)
-                                                    : ShownPath(form, form.RecFile));
+                                                    : form.ShownPath(form.RecFile));
     form.txtTopFile.SetText(form.StratFile.empty() ? std::string(NoFileText)
-                                                   : ShownPath(form, form.StratFile));
+                                                   : form.ShownPath(form.StratFile));
 }
 
 // A code of no option leaves the selection where it is.
@@ -51,25 +47,6 @@ void CopyPhases(RecordEdit& form) {
             CopyFlows(form.LoadedFlows[i], form.EditFlows[i], phase.burstCount);
         }
     }
-}
-
-// The length in bytes of the UTF-8 sequence at the start of a text; 1 where there is none.
-std::size_t SequenceLength(std::string_view text) {
-    const auto byte = [text](std::size_t i) { return static_cast<unsigned char>(text[i]); };
-    const unsigned char first = byte(0);
-    const std::size_t length = first < 0xC2 ? 1 : first < 0xE0 ? 2 : first < 0xF0 ? 3 : 4;
-    if (length == 1 || first > 0xF4 || text.size() < length) {
-        return 1;
-    }
-    for (std::size_t i = 1; i < length; ++i) {
-        if ((byte(i) & 0xC0U) != 0x80U) {
-            return 1;
-        }
-    }
-    // Overlong forms, surrogates and what lies beyond Unicode are no sequences either.
-    const bool valid = !(first == 0xE0 && byte(1) < 0xA0) && !(first == 0xED && byte(1) > 0x9F) &&
-                       !(first == 0xF0 && byte(1) < 0x90) && !(first == 0xF4 && byte(1) > 0x8F);
-    return valid ? length : 1;
 }
 
 }  // namespace
@@ -109,22 +86,4 @@ void EnablePhaseList(RecordEdit& form, bool enabled) {
     form.cmbType.SetEnabled(enabled);
     form.cmdDelete.SetEnabled(enabled);
     form.cmdReset.SetEnabled(enabled);
-}
-
-std::string ShownPath(const RecordEdit& form, const std::string& path) {
-    return ShortenPath(form.DisplayPath(path));
-}
-
-std::string ShortenPath(const std::string& text) {
-    constexpr std::size_t longest = 40;
-    constexpr std::size_t kept = 37;
-    std::vector<std::size_t> starts;
-    for (std::size_t at = 0; at < text.size();) {
-        starts.push_back(at);
-        at += SequenceLength(std::string_view(text).substr(at));
-    }
-    if (starts.size() <= longest) {
-        return text;
-    }
-    return "..." + text.substr(starts[starts.size() - kept]);
 }

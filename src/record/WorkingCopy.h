@@ -1,8 +1,6 @@
 // The working copy: rebuilding it from the loaded copy, and how what belongs to all of it is shown.
 #pragma once
 
-#include <string>
-
 struct RecordEdit;
 
 /// Throws the working copy away, rebuilds it from the loaded copy and shows its first phase. A
@@ -15,10 +13,3 @@ void cmdReset_Click(RecordEdit& form);
 /// The number of phases on show, and whether the form offers phases to choose, edit and delete.
 void ShowPhaseCount(RecordEdit& form, int count);
 void EnablePhaseList(RecordEdit& form, bool enabled);
-
-/// The text under which a path is shown on the form, shortened.
-std::string ShownPath(const RecordEdit& form, const std::string& path);
-
-/// A text of more than 40 characters as "..." and its last 37; any other as it is. Counts code
-/// points and never cuts one; a byte that is not UTF-8 counts as one.
-std::string ShortenPath(const std::string& text);

@@ -3,7 +3,6 @@
 #include <algorithm>
 
 #include "form/RecordEdit.h"
-#include "record/WorkingCopy.h"
 
 namespace {
 
@@ -48,7 +47,7 @@ void cmdChange_Click(RecordEdit& form) {
         return;
     }
     form.EditStratFile = form.CD1.FileName;
-    form.txtTopFile.SetText(ShownPath(form, form.EditStratFile));
+    form.txtTopFile.SetText(form.ShownPath(form.EditStratFile));
     form.EditStratFile = form.CD1.FileName;  // the box has just stored the text on show
     MarkChangedIfPhases(form);
 }

@@ -2,6 +2,8 @@
 // toolkit, tests with a few lines each. Texts are UTF-8, paths the bytes of the file system.
 #pragma once
 
+#include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -66,4 +68,16 @@ public:
     virtual void Show() = 0;
     virtual void RunPendingEvents() = 0;
     virtual void Unload() = 0;
+};
+
+/// The platform as the form sees it. All of it is in place before the form is loaded and stays
+/// until it is unloaded. The program's folder, which the help file is in, has no slash at its end.
+struct Services {
+    MessageBoxes* messages = nullptr;
+    FileDialogs* dialogs = nullptr;
+    HelpViewer* help = nullptr;
+    Window* window = nullptr;
+    std::function<std::unique_ptr<PathHelper>()> createPathHelper;
+    std::function<std::unique_ptr<SettingsStore>()> createSettingsStore;
+    std::string programFolder;
 };

@@ -8,6 +8,7 @@
 #include <cmath>
 #include <utility>
 
+#include "form/Catalogue.h"
 #include "window/Access.h"
 #include "window/Scale.h"
 #include "window/ScreenText.h"

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "editing/Entries.h"
+#include "form/Catalogue.h"
 #include "rules/EruptionTypes.h"
 #include "window/ScreenText.h"
 

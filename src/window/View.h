@@ -11,7 +11,7 @@
 #include <memory>
 #include <vector>
 
-#include "form/Catalogue.h"
+#include "form/CatalogueRow.h"
 #include "form/Controls.h"
 #include "window/Mirror.h"
 

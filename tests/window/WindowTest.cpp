@@ -1,5 +1,6 @@
 #include "WindowTest.h"
 
+#include "form/Catalogue.h"
 #include "window/MessageDialogs.h"
 #include "window/Scale.h"
 

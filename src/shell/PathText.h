@@ -1,0 +1,8 @@
+// How a path is shortened for a narrow field. Which paths are shown where is the form's business.
+#pragma once
+
+#include <string>
+
+/// A text of more than 40 characters as "..." and its last 37; any other as it is. Counts code
+/// points and never cuts one; a byte that is not UTF-8 counts as one.
+std::string ShortenPath(const std::string& text);
