@@ -30,16 +30,25 @@ std::string Duration(double seconds) {
     return seconds >= 1e-6 ? Print("%.2f us", seconds * 1e6) : Print("%.0f ns", seconds * 1e9);
 }
 
+/// Why a run failed, null if it did not. The library's later versions name it otherwise.
+template <class Run>
+const std::string* FailureOf(const Run& run) {
+    if constexpr (requires { run.skip_message; }) {
+        return run.skipped ? &run.skip_message : nullptr;
+    } else {
+        return run.error_occurred ? &run.error_message : nullptr;
+    }
+}
+
 class TableReporter : public benchmark::BenchmarkReporter {
 public:
     bool ReportContext(const Context&) override { return true; }
 
     void ReportRuns(const std::vector<Run>& runs) override {
         for (const Run& run : runs) {
-            failed = failed || run.error_occurred;
-            if (run.error_occurred) {
-                std::printf("%s\t%s\n", run.run_name.function_name.c_str(),
-                            run.error_message.c_str());
+            if (const std::string* const failure = FailureOf(run)) {
+                failed = true;
+                std::printf("%s\t%s\n", run.run_name.function_name.c_str(), failure->c_str());
             } else {
                 Row(run);
             }

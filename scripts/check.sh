@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# Format, lint, and the arrows between the parts of the program. Wants a build in build/default.
+# Format, lint, and the arrows between the parts of the program. Needs a build in build/default.
 . "$(dirname "$0")/lib.sh"
 
-install_missing clang-format clang-tidy
+install_missing git clang-format clang-tidy
 files=$(git ls-files '*.cpp' '*.h')
 mapfile -t sources <<<"$files"
 

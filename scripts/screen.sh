@@ -7,6 +7,11 @@ home=$(mktemp -d)
 leftovers=("$home")
 trap 'kill $(jobs -p) 2>/dev/null || true; rm -rf "${leftovers[@]}"' EXIT
 
+# All that a walk starts has this home: nothing of the user's reaches it, and it leaves nothing there.
+mkdir -m 700 "$home/.config" "$home/run"
+export HOME=$home XDG_RUNTIME_DIR=$home/run
+unset XDG_CONFIG_HOME XDG_CACHE_HOME XDG_DATA_HOME XDG_STATE_HOME XDG_CONFIG_DIRS
+
 # The server picks a free number by itself, so walks can go on side by side. It must not start anew
 # when its last client goes: another one that is just coming in, such as openbox, would be thrown out.
 Xvfb -noreset -displayfd 3 -screen 0 "${TEPHREX_SCREEN:-1600x1200x24}" 3>"$home/display" 2>/dev/null &
@@ -53,21 +58,21 @@ await_gone() {
     xdotool windowactivate --sync "$form" 2>/dev/null || true # a click before that can get lost
 }
 
-# start_editor PROGRAM [DATA_FOLDER]: with a home of its own, which nothing of the user's reaches,
-# and without a data folder with no settings of its own.
+# painted: a window with updates turned off comes up all the same, in one colour.
+painted() { [ "$(import -window "$form" -format %k info:)" -gt 40 ]; }
+
+# start_editor PROGRAM [DATA_FOLDER]: without a data folder with no settings of its own.
 start_editor() {
-    mkdir -p "$home/.config" "$home/run"
-    chmod 700 "$home/run"
     if [ $# -gt 1 ]; then
         printf '[Settings]\nDataPath=%s\n' "$2" >"$home/.config/Tephrex3.ini"
     fi
     openbox >/dev/null 2>&1 &
     wait_until xdotool get_desktop # a window that comes up before it does can get lost
-    env -u XDG_CONFIG_DIRS HOME="$home" XDG_CONFIG_HOME="$home/.config" \
-        XDG_RUNTIME_DIR="$home/run" "$1" &
+    "$1" &
     editor=$!
     await "Edit Tephrex Record"
     form=$(window_named "Edit Tephrex Record" | tail -n 1)
+    wait_until painted
     eval "$(xdotool getwindowgeometry --shell "$form" | grep -E '^(WIDTH|HEIGHT)=')"
 }
 
