@@ -39,15 +39,12 @@ BENCHMARK(StartOnScreen)->Name("Start, on the screen")->UseManualTime();
 void OpenOnScreen(benchmark::State& state) {
     UsePlatform("xcb");
     const RecordOnDisk record(MaxPhases);
+    const Command featherpad{"featherpad", "--standalone", record.Path()};
+    const Command open{Open, record.Path()};
     Screen screen;
     Compare(
-        state, {0.3},
-        [&] {
-            return screen.SecondsToLastChange({"featherpad", "--standalone", record.Path()});
-        },
-        [&] {
-            return screen.SecondsToLastChange({Open, record.Path()});
-        });
+        state, {0.3}, [&] { return screen.SecondsToLastChange(featherpad); },
+        [&] { return screen.SecondsToLastChange(open); });
 }
 BENCHMARK(OpenOnScreen)->Name("Largest record on the screen, cold start")->UseManualTime();
 
@@ -62,11 +59,10 @@ BENCHMARK(MemoryAtStart)->Name("Peak memory after start")->UseManualTime();
 void MemoryWithRecord(benchmark::State& state) {
     UsePlatform("xcb");
     const RecordOnDisk record(MaxPhases);
+    const Command open{OpenToEnd, record.Path()};
     Compare(
         state, {4, 0, Unit::Megabytes}, [] { return RunToEnd({OpenToEnd}).peakMegabytes; },
-        [&] {
-            return RunToEnd({OpenToEnd, record.Path()}).peakMegabytes;
-        });
+        [&] { return RunToEnd(open).peakMegabytes; });
 }
 BENCHMARK(MemoryWithRecord)->Name("Peak memory with the largest record")->UseManualTime();
 

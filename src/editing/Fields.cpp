@@ -40,7 +40,7 @@ constexpr std::array<Field, 20> Fields{{
 }};
 // clang-format on
 
-const Field& FieldOf(TextBox RecordEdit::*box) {
+const Field& FieldOf(BoxMember box) {
     return *std::find_if(Fields.begin(), Fields.end(),
                          [box](const Field& field) { return field.box == box; });
 }

@@ -21,7 +21,7 @@ struct Rule {
 };
 
 struct Field {
-    TextBox RecordEdit::*box;
+    BoxMember box;
     FieldMember member;
     Rule rule;
     Format onShow;
@@ -32,4 +32,4 @@ struct Field {
 extern const std::array<Field, 20> Fields;
 
 /// The row of a box; the box must be in the table.
-const Field& FieldOf(TextBox RecordEdit::*box);
+const Field& FieldOf(BoxMember box);

@@ -121,3 +121,7 @@ struct RecordEdit : Form, EditorState {
 
     void ShowMessage(const std::string& text, MessageIcon icon) const;
 };
+
+/// One box, or one label, of whichever form.
+using BoxMember = TextBox RecordEdit::*;
+using LabelMember = Label RecordEdit::*;

@@ -17,8 +17,8 @@ constexpr int Columns = 10;
 
 // The controls of a row, a field with its label, are always enabled and disabled together.
 struct FieldRow {
-    Label RecordEdit::*label;
-    TextBox RecordEdit::*box;
+    LabelMember label;
+    BoxMember box;
     std::array<Cell, Columns> cells;
 };
 

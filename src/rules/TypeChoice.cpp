@@ -20,8 +20,8 @@ void TakeType(RecordEdit& form) {
 // Each box stores its field; those of the mass flux and the bursts turn 0 into 1.
 void ResetEruption(RecordEdit& form) {
     using E = RecordEdit;
-    for (TextBox E::*const box : {&E::txtLoc, &E::txtStr, &E::txtWind, &E::txtPart, &E::txtBurst,
-                                  &E::txtCbase, &E::txtCtop}) {
+    for (const BoxMember box : {&E::txtLoc, &E::txtStr, &E::txtWind, &E::txtPart, &E::txtBurst,
+                                &E::txtCbase, &E::txtCtop}) {
         (form.*box).SetText(form.TextOf(0, FieldOf(box).onShow));
     }
 }
