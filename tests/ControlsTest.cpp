@@ -133,7 +133,7 @@ TEST_F(FormTest, TheCatalogueHoldsTheControlsOfTheForm) {
             captions += std::string(row.caption) + '|';
         }
     }
-    for (const auto& names : {LabelsOf(), SpokenNames(), ToolTips()}) {
+    for (const auto& names : {LabelsOf(), SpokenNames(), SpokenDescriptions(), ToolTips()}) {
         for (const NamedText& name : names) {
             EXPECT_NE(form.Find(name.control), nullptr) << name.control;
         }

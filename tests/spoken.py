@@ -6,11 +6,11 @@ import pyatspi
 from gi.repository import GLib
 
 FOCUSABLE = {
-    "combo box": "Record phase to edit|Caldera style|Eruption Type|Side thrown down|Lava flow",
-    "check box": "Caldera|Directed|Explosive bursts",
-    "radio button": "Large|Normal|Small",
-    "push button": "Delete|Add|Stratigraphic File|Close|Save|Reset|Open|Help",
-    "text": "Fault magnitude|Vent location|Strength|Wind|Mass Flux|Number of bursts|Scarp top|"
+    pyatspi.ROLE_COMBO_BOX: "Record phase to edit|Caldera style|Eruption Type|Side thrown down|Lava flow",
+    pyatspi.ROLE_CHECK_BOX: "Caldera|Directed|Explosive bursts",
+    pyatspi.ROLE_RADIO_BUTTON: "Large|Normal|Small",
+    pyatspi.ROLE_PUSH_BUTTON: "Delete|Add|Stratigraphic File|Close|Save|Reset|Open|Help",
+    pyatspi.ROLE_TEXT: "Fault magnitude|Vent location|Strength|Wind|Mass Flux|Number of bursts|Scarp top|"
             "Scarp base|Fault dip|Erosion duration|Flow duration|Straticgraphic File|Flow length|"
             "3D Position|Growth|Crater Size|Vent Position|Speed|Mid Radius|Deposit Angle|"
             "Left Angle|Right Angle",
@@ -28,7 +28,7 @@ def soon(wanted, get):
 
 def own_focus(node):
     return (node.getState().contains(pyatspi.STATE_FOCUSABLE)
-            and node.parent.getRoleName() not in ("combo box", "list"))
+            and node.parent.getRole() not in (pyatspi.ROLE_COMBO_BOX, pyatspi.ROLE_LIST))
 
 
 def states(state, *names):
@@ -36,7 +36,7 @@ def states(state, *names):
 
 
 def text(control):
-    box = control[1] if control.getRoleName() == "combo box" else control
+    box = control[1] if control.getRole() == pyatspi.ROLE_COMBO_BOX else control
     return box.queryText().getText(0, -1)
 
 
@@ -56,17 +56,24 @@ soon(1, lambda: len(list(pyatspi.Registry.getDesktop(0))))
 found = {each.name: each
          for each in pyatspi.findAllDescendants(pyatspi.Registry.getDesktop(0)[0], own_focus)}
 soon({name: role for role, names in FOCUSABLE.items() for name in names.split("|")},
-     lambda: {name: each.getRoleName() for name, each in found.items()})
+     lambda: {name: each.getRole() for name, each in found.items()})
 heard = []
 pyatspi.Registry.registerEventListener(
-    lambda event: heard.append((event.source.getRoleName(), event.source.name)),
+    lambda event: heard.append((event.source.getRole(), event.source.name)),
     "object:property-change:accessible-name", "window:activate")
+said = []
+pyatspi.Registry.registerEventListener(
+    lambda event: said.append((event.source.name, event.any_data)), "object:text-changed:insert")
 strength = found["Strength"]
 soon("Edit the eruption strength", lambda: strength.description)
 soon(["8.50", "Faulting"], lambda: [text(found[name]) for name in ("Vent location", "Eruption Type")])
 soon([True, False, False], lambda: states(pyatspi.STATE_CHECKED, "Normal", "Small", "Caldera"))
 soon([False, False], lambda: states(pyatspi.STATE_ENABLED, "Strength", "Save"))
 
+# Dictated: the range lowers the number, and the last that is said is what is there.
+found["Fault magnitude"].queryEditableText().setTextContents("99")
+soon(("Fault magnitude", "20"), lambda: said and said[-1])
+soon([True], lambda: states(pyatspi.STATE_ENABLED, "Save"))
 choose_type("Plinian")
 soon([True, True], lambda: states(pyatspi.STATE_ENABLED, "Strength", "Save"))
 act(found["Caldera"], "Toggle")
@@ -77,7 +84,8 @@ subprocess.run(["xdotool", "type", "--delay", "20", "1.25"], check=True)
 soon("1.25", lambda: text(strength))
 choose_type("Fumarolic/Phreatic")
 subprocess.run(["xdotool", "key", "ctrl+s"], check=True)
-for news in ("text", "Burst Frequency"), ("label", "Phase 1 Maximum Fumarolic strength exceeded."), \
-        ("alert", "TephrexEdit"):
+for news in (pyatspi.ROLE_TEXT, "Burst Frequency"), \
+        (pyatspi.ROLE_LABEL, "Phase 1 Maximum Fumarolic strength exceeded."), \
+        (pyatspi.ROLE_ALERT, "TephrexEdit"):
     soon(True, lambda: news in heard)
 subprocess.run(["xdotool", "key", "Return"], check=True)

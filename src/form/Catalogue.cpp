@@ -137,7 +137,10 @@ constexpr std::array<NamedText, 41> Tips{{
     {"txtMap4",    "Edit the lava flow right skewness"},
 }};
 
-constexpr std::array<NamedText, 23> Labels{{
+constexpr std::array<NamedText, 26> Labels{{
+    {"labRecfile", "Label1"},
+    {"labPhases",  "Label3"},
+    {"optLarge",   "labScale"},
     {"txtTopFile", "Label2"},
     {"cmbPhase",   "Label4"},
     {"cmbType",    "Label5"},
@@ -171,6 +174,15 @@ constexpr std::array<NamedText, 5> Names{{
     {"txtLava",    "Flow duration"},
 }};
 
+constexpr std::array<NamedText, 6> Descriptions{{
+    {"cmbFlow",    "Select the lava flow to edit"},
+    {"txtLava",    "Edit the duration of the selected lava flow"},
+    {"cmdHelp",    "Show the help on this editor"},
+    {"optLarge",   "Set the map of this record to the large scale"},
+    {"optNormal",  "Set the map of this record to the normal scale"},
+    {"optSmall",   "Set the map of this record to the small scale"},
+}};
+
 // clang-format on
 
 }  // namespace
@@ -182,3 +194,5 @@ std::span<const NamedText> ToolTips() { return Tips; }
 std::span<const NamedText> LabelsOf() { return Labels; }
 
 std::span<const NamedText> SpokenNames() { return Names; }
+
+std::span<const NamedText> SpokenDescriptions() { return Descriptions; }

@@ -18,8 +18,12 @@ std::span<const CatalogueRow> Catalogue();
 /// The tool tips; a control that is not here has none.
 std::span<const NamedText> ToolTips();
 
-/// The controls that a label stands beside; the text is the name of that label.
+/// The controls that a label stands beside; the text is the name of that label. The label of one
+/// option counts for its whole group.
 std::span<const NamedText> LabelsOf();
 
 /// The names of the controls that have neither a label nor a caption to be called by.
 std::span<const NamedText> SpokenNames();
+
+/// What a screen reader says of the controls that have no tool tip to be described by.
+std::span<const NamedText> SpokenDescriptions();

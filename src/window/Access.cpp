@@ -3,7 +3,9 @@
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAccessibleWidget>
+#include <QLabel>
 #include <QLineEdit>
+#include <QRadioButton>
 
 #include "window/ListBox.h"
 
@@ -59,9 +61,11 @@ private:
 };
 
 // An option that the Tab key reaches also while another one of its group is selected counts as a
-// check box with the toolkit.
+// check box with the toolkit. And only one of the group can be the buddy of the label.
 class OptionAccess : public QAccessibleWidget {
 public:
+    using Relation = QPair<QAccessibleInterface*, QAccessible::Relation>;
+
     explicit OptionAccess(QAbstractButton& ownOption)
         : QAccessibleWidget(&ownOption, QAccessible::RadioButton), option(ownOption) {}
 
@@ -70,6 +74,20 @@ public:
         state.checkable = true;
         state.checked = option.isChecked();
         return state;
+    }
+
+    // Screen readers use the first label they find, which would be the frame.
+    QList<Relation> relations(QAccessible::Relation wanted) const override {
+        QList<Relation> found = QAccessibleWidget::relations(wanted & ~QAccessible::Label);
+        if (wanted.testFlag(QAccessible::Label)) {
+            for (QLabel* label : option.parentWidget()->findChildren<QLabel*>()) {
+                if (qobject_cast<QRadioButton*>(label->buddy()) != nullptr) {
+                    found.append(
+                        {QAccessible::queryAccessibleInterface(label), QAccessible::Label});
+                }
+            }
+        }
+        return found;
     }
 
     QStringList actionNames() const override {
@@ -115,5 +133,12 @@ void NameAloud(QWidget& widget, QString caption) {
     widget.setAccessibleName(caption);
     if (auto* const list = qobject_cast<ListBox*>(&widget)) {
         list->lineEdit()->setAccessibleName(caption);
+    }
+}
+
+void NameBuddy(const QLabel& label) {
+    QWidget* const buddy = label.buddy();
+    if (qobject_cast<QLineEdit*>(buddy) != nullptr || qobject_cast<QComboBox*>(buddy) != nullptr) {
+        NameAloud(*buddy, label.text());
     }
 }

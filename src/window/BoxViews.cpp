@@ -15,8 +15,9 @@ constexpr QColor PaleYellow(255, 255, 192);
 
 TextBoxView::TextBoxView(const Subject& subject) : ViewOf(subject) {
     widget.setAlignment(Qt::AlignCenter);
-    connect(&widget, &LineBox::KeyPressed, this, [this] { TakeText(By::Key); });
-    connect(&widget, &LineBox::Edited, this, [this] { TakeText(By::OtherMeans); });
+    connect(&widget, &LineBox::KeyPressed, this, [this] { OnUserAction([this] { TakeKey(); }); });
+    connect(&widget, &LineBox::Edited, this, [this] { OnUserAction([this] { TakeEdit(); }); });
+    connect(&widget, &LineBox::TextSet, this, [this] { OnTextSet([this] { TakeKey(); }); });
     connect(&widget, &LineBox::SelectionMoved, this, [this] {
         if (ShowsText()) {  // or the edit of which this is a part is told in a moment
             OnUserAction([this] { TakeSelection(); });
@@ -34,18 +35,21 @@ void TextBoxView::Update() {
 
 bool TextBoxView::ShowsText() const { return widget.text() == ToScreen(control.Text()); }
 
+void TextBoxView::TakeKey() {
+    const std::string text = TextOnShow();
+    control.PressKey(text, BytePlace(text, widget.cursorPosition()));
+    TakeSelection();
+}
+
+void TextBoxView::TakeEdit() {
+    const std::string text = TextOnShow();
+    control.Edit(text, BytePlace(text, widget.cursorPosition()));
+    TakeSelection();
+}
+
 // Text that the user has left alone keeps the bytes that the control has for it.
-void TextBoxView::TakeText(By means) {
-    OnUserAction([this, means] {
-        const std::string text = ShowsText() ? control.Text() : FromScreen(widget.text());
-        const std::size_t caret = BytePlace(text, widget.cursorPosition());
-        if (means == By::Key) {
-            control.PressKey(text, caret);
-        } else {
-            control.Edit(text, caret);
-        }
-        TakeSelection();
-    });
+std::string TextBoxView::TextOnShow() const {
+    return ShowsText() ? control.Text() : FromScreen(widget.text());
 }
 
 // A widget forgets its selection when the focus leaves it; a control does not.
@@ -106,7 +110,7 @@ bool ComboBoxView::ShowsText() const { return widget.currentText() == ToScreen(c
 
 void ComboBoxView::TakeText() {
     if (!ShowsText()) {
-        OnUserAction([this] { control.Type(FromScreen(widget.currentText())); });
+        OnTextSet([this] { control.Type(FromScreen(widget.currentText())); });
     }
 }
 

@@ -14,10 +14,10 @@ public:
     QSize SizeWith(const QString& text) override { return widget.SizeFor(text); }
 
 private:
-    enum class By { Key, OtherMeans };
-
     bool ShowsText() const;
-    void TakeText(By means);
+    std::string TextOnShow() const;
+    void TakeKey();
+    void TakeEdit();
     void TakeSelection();
     void ShowSelection();
 };

@@ -110,7 +110,7 @@ void FormWindow::ChainTabs() {
     }
 }
 
-// By these names a reader of the screen calls the controls that have no caption.
+// What a screen reader says of the controls that their captions and tips say nothing of.
 void FormWindow::NameViews() {
     for (const NamedText& row : LabelsOf()) {
         if (auto* const label = qobject_cast<QLabel*>(&Find(row.text)->Widget())) {
@@ -119,6 +119,9 @@ void FormWindow::NameViews() {
     }
     for (const NamedText& row : SpokenNames()) {
         NameAloud(Find(row.control)->Widget(), ToScreen(row.text));
+    }
+    for (const NamedText& row : SpokenDescriptions()) {
+        Find(row.control)->Widget().setAccessibleDescription(ToScreen(row.text));
     }
 }
 

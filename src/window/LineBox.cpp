@@ -1,5 +1,6 @@
 #include "window/LineBox.h"
 
+#include <QAccessible>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QStyle>
@@ -32,6 +33,7 @@ bool IsKeyPress(const QKeyEvent& event) {
 }  // namespace
 
 LineBox::LineBox(QWidget* parent) : QLineEdit(parent) {
+    connect(this, &QLineEdit::textEdited, this, [this] { editedByUser = true; });
     connect(this, &QLineEdit::textChanged, this, &LineBox::TellIfEdited);
     connect(this, &QLineEdit::selectionChanged, this, &LineBox::TellIfMoved);
     connect(this, &QLineEdit::cursorPositionChanged, this, &LineBox::TellIfMoved);
@@ -45,9 +47,23 @@ QSize LineBox::SizeFor(const QString& shown) const {
     return RoomToEdit(shown, fontMetrics()) + option.rect.size() - inside;
 }
 
+// The toolkit announces what is typed, pasted or set, but not what is undone or done again.
+void LineBox::AnnounceIfUndone() {
+    const bool couldRedo = std::exchange(canRedo, isRedoAvailable());
+    const QString before = std::exchange(known, text());
+    if ((couldRedo || canRedo) && !inKeyPress) {
+        QAccessibleTextUpdateEvent event(this, 0, before, known);
+        QAccessible::updateAccessibility(&event);
+    }
+}
+
+// The toolkit says "edited" just before "changed" of what the user does with the box itself. An
+// assistive technology sets the text, as code does.
 void LineBox::TellIfEdited() {
+    const bool byUser = std::exchange(editedByUser, false);
+    AnnounceIfUndone();
     if (!inKeyPress) {
-        emit Edited();
+        emit byUser ? Edited() : TextSet();
     }
 }
 

@@ -16,8 +16,10 @@ signals:
     /// A key was pressed that brings or takes a character at the insertion point, and the text is
     /// as the key left it, which can be as it was.
     void KeyPressed();
-    /// The text was changed in any other way.
+    /// The user changed the text in any other way.
     void Edited();
+    /// The text was set, by code or through an assistive technology.
+    void TextSet();
     /// The selection or the insertion point has moved, and no key press is going on.
     void SelectionMoved();
 
@@ -31,9 +33,13 @@ protected:
 
 private:
     void TellIfEdited();
+    void AnnounceIfUndone();
     void TellIfMoved();
 
     bool inKeyPress = false;
+    bool editedByUser = false;  // and the change has still to be reported
+    bool canRedo = false;       // after the last change
+    QString known;              // the text after the last change
     bool focusByMouse = false;  // and the click that brought it is still to come
     bool clickSpent = false;    // on bringing the focus, until the button is released
 };

@@ -52,6 +52,16 @@ protected:
         }
     }
 
+    /// The same for text that an assistive technology has set. The toolkit announces that text as
+    /// soon as this returns, so the view follows later: the last text heard is the one on show.
+    template <class Action>
+    void OnTextSet(Action action) {
+        if (!mirror.Updating()) {
+            mirror.Mark(*this);
+            action();
+        }
+    }
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

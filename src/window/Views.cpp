@@ -54,9 +54,7 @@ public:
         } else {
             widget.setText(caption);
         }
-        if (widget.buddy() != nullptr) {
-            NameAloud(*widget.buddy(), caption);
-        }
+        NameBuddy(widget);
         View::Update();
     }
 
