@@ -53,7 +53,7 @@ BENCHMARK(Open)->Name("Open it in the form, against reading it")->UseManualTime(
 
 bool AllPass(EditorState& record) {
     for (int i = 1; i <= record.LoadedPhaseCount; ++i) {
-        if (JudgePhase(record.LoadedPhases[i], record.LoadedFlows[i], record.RecordScale)) {
+        if (FirstFault(record.LoadedPhases[i], record.LoadedFlows[i], record.RecordScale)) {
             return false;
         }
     }

@@ -130,10 +130,8 @@ void WritePlainly(const std::string& path, const EditorState& state, std::vector
 
 ShownPhase NumbersOf(const PhaseRecord& phase) {
     ShownPhase shown{};
-    std::transform(Fields.begin(), Fields.end(), shown.begin(), [&phase](const Field& field) {
-        const auto number =
-            std::visit([&phase](auto member) -> double { return phase.*member; }, field.member);
-        return Shown{static_cast<Single>(number), field.onShow == Format::TwoDecimals ? 2 : 0};
+    std::transform(FieldBoxes.begin(), FieldBoxes.end(), shown.begin(), [&phase](const auto& row) {
+        return Shown{ValueOf(phase, row.field), row.onShow == Format::TwoDecimals ? 2 : 0};
     });
     return shown;
 }

@@ -113,12 +113,13 @@ private:
     }
 
     std::string BrokenRange() {
-        for (const Field& field : Fields) {
-            const TextBox& box = form.*field.box;
+        for (const FieldBox& row : FieldBoxes) {
+            const TextBox& box = form.*row.box;
+            const FieldRange& range = row.field.range;
             const Single value = form.NumberIn(box);
-            if (field.rule.kind == Rule::Range &&
-                (value < field.rule.low || value > field.rule.high ||
-                 box.Text() != form.TextOf(value, field.rewritten))) {
+            if (range.kind == FieldRange::Between &&
+                (value < range.low || value > range.high ||
+                 box.Text() != form.TextOf(value, row.rewritten))) {
                 return "range of " + box.Name() + " with " + box.Text();
             }
         }

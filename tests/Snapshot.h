@@ -8,17 +8,13 @@
 #include "Doors.h"
 #include "editing/Fields.h"
 
-// clang-format off
-#define FIELD(name) {#name, &PhaseRecord::name}
-inline const std::map<std::string, FieldMember> NamedFields{
-    FIELD(ventLocation), FIELD(eruptionType), FIELD(strength), FIELD(wind), FIELD(massFlux),
-    FIELD(calderaFlag), FIELD(directedFlag), FIELD(calderaStyle), FIELD(scarpTop),
-    FIELD(scarpBase), FIELD(burstCount), FIELD(tectonicKind), FIELD(faultMagnitude),
-    FIELD(faultDip), FIELD(faultDownSide), FIELD(erosionCycles), FIELD(burstFlag),
-    FIELD(flowLength), FIELD(craterSize), FIELD(position3D), FIELD(ventPosition), FIELD(growth),
-    FIELD(speed), FIELD(midRadius), FIELD(depositAngle), FIELD(leftAngle), FIELD(rightAngle)};
-#undef FIELD
-// clang-format on
+inline const std::map<std::string, FieldMember> NamedFields = [] {
+    std::map<std::string, FieldMember> fields;
+    for (const PhaseField& field : PhaseFields) {
+        fields.emplace(field.name, field.member);
+    }
+    return fields;
+}();
 
 inline std::string NumberText(double number) {
     std::array<char, 64> text{};

@@ -8,6 +8,13 @@
 
 namespace {
 
+// Only locations are corrected, and those are Singles.
+void Correct(PhaseRecord& phase, const Fault& fault) {
+    if (fault.correction) {
+        phase.*std::get<Single PhaseRecord::*>(fault.field->member) = *fault.correction;
+    }
+}
+
 // The message comes before the form moves.
 void Report(RecordEdit& form, int phase, const Fault& fault) {
     form.ShowMessage(PhaseEntry(phase) + std::string(fault.message), MessageIcon::Information);
@@ -21,8 +28,9 @@ void Report(RecordEdit& form, int phase, const Fault& fault) {
 bool AllPass(RecordEdit& form) {
     const int count = form.EditPhaseCount;
     for (int n = 1; n <= count; ++n) {
-        if (const auto fault =
-                JudgePhase(form.EditPhases[n], form.EditFlows[n], form.RecordScale)) {
+        PhaseRecord& phase = form.EditPhases[n];
+        if (const auto fault = FirstFault(phase, form.EditFlows[n], form.RecordScale)) {
+            Correct(phase, *fault);
             Report(form, n, *fault);
             return false;
         }

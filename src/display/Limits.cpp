@@ -1,8 +1,12 @@
 #include "display/Limits.h"
 
+#include <algorithm>
+#include <cmath>
 #include <initializer_list>
 #include <iterator>
+#include <limits>
 #include <stdexcept>
+#include <utility>
 
 #include "rules/FlowDurations.h"
 
@@ -11,23 +15,30 @@ namespace {
 constexpr double MapStart = 50;
 constexpr double MapEnd = 1230;
 
+double MapPosition(Single location, double factor) {
+    return factor * static_cast<double>(location);
+}
+
 // What the checks look at, and the flow that one of them has found.
-struct Subject {
-    PhaseRecord& phase;
+struct Judged {
+    const PhaseRecord& phase;
     const FlowRow& flows;
     double factor;  // from a location to its place on the map
+    int firstFlow;  // of those to look at
+    int lastFlow;
     std::optional<BadFlow> badFlow = std::nullopt;
-
-    double MapPosition(Single location) const { return factor * static_cast<double>(location); }
 };
 
-// The eruption types that a check is made for, as one bit each.
+// The eruption types that a check is made for, as one bit each; the first is for codes that are no
+// type, which get the checks for all types and no others.
 using Types = unsigned;
+
+constexpr Types BitOf(Integer code) { return IsEruptionType(code) ? 2U << unsigned(code) : 1U; }
 
 constexpr Types Of(std::initializer_list<Integer> codes) {
     Types types = 0;
     for (const Integer code : codes) {
-        types |= 1U << static_cast<unsigned>(code);
+        types |= BitOf(code);
     }
     return types;
 }
@@ -41,68 +52,119 @@ constexpr Types Plinian = Of({EruptionType::Plinian});
 constexpr Types Collapse = Of({EruptionType::Collapse});
 constexpr Types Fumarolic = Of({EruptionType::Fumarolic});
 constexpr Types Located = ~(Tectonic | Collapse);
-constexpr Types NoType = 1U << 8U;  // beyond the bits of the types
 
-// A code that is no type gets the checks for all types.
-constexpr Types BitOf(Integer code) {
-    return code >= EruptionType::Tectonic && code <= EruptionType::Fumarolic ? Of({code}) : NoType;
-}
+// A row's test: when a phase fails it, which field is at fault, what would pass, and what the field
+// becomes if it is corrected.
+struct Test {
+    bool (*fails)(Judged& judged);
+    const PhaseField* field;
+    Limits (*passing)(const Judged& judged);
+    std::optional<Single> (*correction)(const Judged& judged) = nullptr;
+};
 
-using Fails = bool (*)(Subject& s);
+Limits Anything(const Judged& /*judged*/) { return {}; }
+
+template <int Numerator, int Denominator>
+constexpr Single Ratio = static_cast<Single>(Numerator) / Denominator;
 
 template <auto Field, int Numerator, int Denominator = 1>
-bool Below(Subject& s) {
-    return s.phase.*Field < static_cast<Single>(Numerator) / Denominator;
-}
+constexpr Test Below{[](Judged& j) { return j.phase.*Field < Ratio<Numerator, Denominator>; },
+                     &FieldOf(Field),
+                     [](const Judged&) {
+                         return Limits{Ratio<Numerator, Denominator>, {}};
+                     }};
 
 template <auto Field, int Limit>
-bool Above(Subject& s) {
-    return s.phase.*Field > static_cast<Single>(Limit);
+constexpr Test Above{[](Judged& j) { return j.phase.*Field > Ratio<Limit, 1>; }, &FieldOf(Field),
+                     [](const Judged&) {
+                         return Limits{{}, Ratio<Limit, 1>};
+                     }};
+
+bool BeforeMap(double position) { return position < MapStart; }
+bool BehindMap(double position) { return position > MapEnd; }
+
+// The last location at one end of the map. The Single next to the quotient can lie on either side;
+// with a negative scale the map runs from right to left.
+Single LastOnMap(double end, bool (*off)(double), double factor) {
+    const bool upwards = (end == MapStart) == (factor > 0);
+    const Single far = std::numeric_limits<Single>::max() * (upwards ? 1.0F : -1.0F);
+    auto last = static_cast<Single>(end / factor);
+    while (off(MapPosition(last, factor))) {
+        last = std::nextafter(last, far);
+    }
+    return last;
 }
 
-bool LocationTooSmall(Subject& s) { return s.MapPosition(s.phase.ventLocation) < MapStart; }
-bool LocationTooLarge(Subject& s) { return s.MapPosition(s.phase.ventLocation) > MapEnd; }
-
-bool NoDownSide(Subject& s) {
-    return s.phase.tectonicKind == TectonicKind::Faulting && s.phase.faultDip == 0 &&
-           s.phase.faultDownSide != DownSide::Left && s.phase.faultDownSide != DownSide::Right;
+Limits OnMap(const Judged& j) {
+    const Single start = LastOnMap(MapStart, BeforeMap, j.factor);
+    const Single end = LastOnMap(MapEnd, BehindMap, j.factor);
+    return {std::min(start, end), std::max(start, end)};
 }
 
-bool NoCalderaStyle(Subject& s) { return s.phase.calderaFlag == 1 && s.phase.calderaStyle == 0; }
+constexpr const PhaseField& Vent = FieldOf(&PhaseRecord::ventLocation);
+constexpr Test LocationTooSmall{
+    [](Judged& j) { return BeforeMap(MapPosition(j.phase.ventLocation, j.factor)); }, &Vent, OnMap};
+constexpr Test LocationTooLarge{
+    [](Judged& j) { return BehindMap(MapPosition(j.phase.ventLocation, j.factor)); }, &Vent, OnMap};
+
+// A scarp off the map is put on the end of the map that it left.
+template <auto Scarp>
+constexpr Test OffMap{[](Judged& j) {
+                          const double position = MapPosition(j.phase.*Scarp, j.factor);
+                          return BeforeMap(position) || BehindMap(position);
+                      },
+                      &FieldOf(Scarp), OnMap,
+                      [](const Judged& j) -> std::optional<Single> {
+                          Single scarp = j.phase.*Scarp;
+                          if (BeforeMap(MapPosition(scarp, j.factor))) {
+                              scarp = static_cast<Single>(MapStart / j.factor);
+                          }
+                          if (BehindMap(MapPosition(scarp, j.factor))) {
+                              scarp = static_cast<Single>(MapEnd / j.factor);
+                          }
+                          return scarp;
+                      }};
+
+constexpr Test ScarpsEqual{[](Judged& j) { return j.phase.scarpTop == j.phase.scarpBase; },
+                           &FieldOf(&PhaseRecord::scarpBase), Anything};
+
+constexpr Test NoDownSide{[](Judged& j) {
+                              return j.phase.tectonicKind == TectonicKind::Faulting &&
+                                     j.phase.faultDip == 0 &&
+                                     j.phase.faultDownSide != DownSide::Left &&
+                                     j.phase.faultDownSide != DownSide::Right;
+                          },
+                          &FieldOf(&PhaseRecord::faultDownSide), Anything};
+
+constexpr Test NoCalderaStyle{
+    [](Judged& j) { return j.phase.calderaFlag == 1 && j.phase.calderaStyle == 0; },
+    &FieldOf(&PhaseRecord::calderaStyle), Anything};
 
 // Looks for the first flow that is too short or too long; its row and the next tell which.
-bool FlowTooShort(Subject& s) {
-    s.badFlow = FirstBadFlow(s.phase, s.flows);
-    return s.badFlow && s.badFlow->tooShort;
-}
+constexpr Test FlowTooShort{[](Judged& j) {
+                                j.badFlow = FirstBadFlow(j.phase, j.flows, j.firstFlow, j.lastFlow);
+                                return j.badFlow && j.badFlow->tooShort;
+                            },
+                            nullptr,
+                            [](const Judged& j) {
+                                return Limits{ShortestFlow(j.phase.eruptionType), {}};
+                            }};
+constexpr Test FlowTooLong{
+    [](Judged& j) { return j.badFlow.has_value(); }, nullptr,
+    [](const Judged& j) {
+        return Limits{{}, static_cast<Single>(LongestFlow(j.phase, j.badFlow->flow))};
+    }};
 
-bool FlowTooLong(Subject& s) { return s.badFlow.has_value(); }
-
-template <auto Scarp>
-bool PutOnMap(Subject& s) {
-    Single& scarp = s.phase.*Scarp;
-    const bool low = s.MapPosition(scarp) < MapStart;
-    if (low) {
-        scarp = static_cast<Single>(MapStart / s.factor);
-    }
-    const bool high = s.MapPosition(scarp) > MapEnd;
-    if (high) {
-        scarp = static_cast<Single>(MapEnd / s.factor);
-    }
-    return low || high;
-}
-
-bool ScarpsEqual(Subject& s) { return s.phase.scarpTop == s.phase.scarpBase; }
-
-// Whether a check that fails ends the judgement, or the one behind it is looked at first and, if
-// that fails too, hides it.
+// Whether the first fault is that of this row, or one of a later row that fails too.
 enum class Then { Stop, GoOn };
 
 struct Check {
     Types types;
-    Fails fails;
+    Test test;
     std::string_view message;
     Then then = Then::Stop;
+
+    bool IsFor(const PhaseRecord& phase) const { return (types & BitOf(phase.eruptionType)) != 0; }
 };
 
 using P = PhaseRecord;
@@ -144,8 +206,8 @@ constexpr Check Checks[] = {
     {Plinian,     Below<&P::depositAngle, -1>, " Deposit angle must be >= -1"},
     {Plinian,     Above<&P::depositAngle, 1>,  " Deposit angle must be <= 1"},
 
-    {Collapse,    PutOnMap<&P::scarpTop>,      " Scarp top reset"},
-    {Collapse,    PutOnMap<&P::scarpBase>,     " Scarp base reset"},
+    {Collapse,    OffMap<&P::scarpTop>,        " Scarp top reset"},
+    {Collapse,    OffMap<&P::scarpBase>,       " Scarp base reset"},
     {Collapse,    ScarpsEqual,                 " Scarp base and top cannot be equal"},
     {Collapse,    Above<&P::midRadius, 128>,   " Mid radius must be <= 128 "},
     {Collapse,    Below<&P::depositAngle, -1>, " Deposit angle must be >= -1"},
@@ -160,22 +222,110 @@ constexpr Check Checks[] = {
 static_assert(std::size(Checks) == 40);
 // clang-format on
 
-}  // namespace
+consteval bool EachTypeHasRows() {
+    for (Integer type = 0; type <= LastEruptionType; ++type) {
+        if (std::none_of(std::begin(Checks), std::end(Checks), [type](const Check& check) {
+                return (check.types & BitOf(type)) != 0 &&
+                       (check.types & BitOf(EruptionType::None)) == 0;
+            })) {
+            return false;
+        }
+    }
+    return true;
+}
+static_assert(EachTypeHasRows(), "each eruption type has checks of its own");
+static_assert(LastEruptionType + 1 < std::numeric_limits<Types>::digits, "a bit for each type");
 
-std::optional<Fault> JudgePhase(PhaseRecord& phase, const FlowRow& flows, Integer recordScale) {
+Judged Judging(const PhaseRecord& phase, const FlowRow& flows, Integer recordScale) {
     if (recordScale == 0) {
         throw std::domain_error("Division by zero");
     }
-    Subject subject{phase, flows, 1000.0 / recordScale};
-    const Types type = BitOf(phase.eruptionType);
+    return {phase, flows, 1000.0 / recordScale, 1, phase.burstCount};
+}
+
+Fault FaultOf(const Check& check, const Judged& judged) {
+    const Test& test = check.test;
+    return {check.message, test.field, judged.badFlow ? judged.badFlow->flow : 0,
+            test.passing(judged), test.correction ? test.correction(judged) : std::nullopt};
+}
+
+bool IsForFlows(const Check& check) { return check.test.field == nullptr; }
+
+// Each flow by itself, against the rows for flows.
+void JudgeFlows(Judged judged, std::vector<Fault>& faults) {
+    bool overflowed = false;
+    for (int flow = 1; flow <= judged.phase.burstCount; ++flow) {
+        judged.firstFlow = judged.lastFlow = flow;
+        try {
+            const auto* const check =
+                std::find_if(std::begin(Checks), std::end(Checks), [&judged](const Check& each) {
+                    return IsForFlows(each) && each.test.fails(judged);
+                });
+            if (check != std::end(Checks)) {
+                faults.push_back(FaultOf(*check, judged));
+            }
+        } catch (const std::overflow_error&) {
+            overflowed = true;
+        }
+    }
+    if (overflowed) {
+        faults.push_back({.message = "Overflow",
+                          .field = &FieldOf(&PhaseRecord::flowLength),
+                          .passing = {},
+                          .correction = {}});
+    }
+}
+
+}  // namespace
+
+std::optional<Fault> FirstFault(const PhaseRecord& phase, const FlowRow& flows,
+                                Integer recordScale) {
+    Judged judged = Judging(phase, flows, recordScale);
     std::optional<Fault> fault;
     for (const Check& check : Checks) {
-        if ((check.types & type) != 0 && check.fails(subject)) {
-            fault = Fault{check.message, subject.badFlow ? subject.badFlow->flow : 0};
+        if (check.IsFor(phase) && check.test.fails(judged)) {
+            fault = FaultOf(check, judged);
             if (check.then == Then::Stop) {
                 return fault;
             }
         }
     }
     return fault;
+}
+
+std::vector<Fault> AllFaults(const PhaseRecord& phase, const FlowRow& flows, Integer recordScale) {
+    Judged judged = Judging(phase, flows, recordScale);
+    std::vector<Fault> faults;
+    bool flowsJudged = false;
+    for (const Check& check : Checks) {
+        if (!check.IsFor(phase)) {
+            continue;
+        }
+        if (IsForFlows(check)) {
+            if (!std::exchange(flowsJudged, true)) {
+                JudgeFlows(judged, faults);
+            }
+        } else if (check.test.fails(judged)) {
+            faults.push_back(FaultOf(check, judged));
+        }
+    }
+    return faults;
+}
+
+Limits WidestLimits(const PhaseField& field, Integer recordScale) {
+    const PhaseRecord phase;
+    const FlowRow flows;
+    const Judged judged = Judging(phase, flows, recordScale);
+    Limits widest;
+    for (const Check& check : Checks) {
+        if (check.test.field == &field) {
+            const Limits limits = check.test.passing(judged);
+            if (limits.lowest)
+                widest.lowest = std::min(widest.lowest.value_or(*limits.lowest), *limits.lowest);
+            if (limits.highest)
+                widest.highest =
+                    std::max(widest.highest.value_or(*limits.highest), *limits.highest);
+        }
+    }
+    return widest;
 }

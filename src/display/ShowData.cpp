@@ -3,9 +3,9 @@
 #include "editing/Entries.h"
 #include "editing/Fields.h"
 #include "form/ErrorPath.h"
-#include "form/RecordEdit.h"
 #include "rules/Activation.h"
 #include "rules/EruptionTypes.h"
+#include "rules/FieldUse.h"
 
 namespace {
 
@@ -47,18 +47,19 @@ void ShowFlows(RecordEdit& form, const PhaseRecord& phase) {
 
 // A flag of 1 runs the box's own handler, which enables Save.
 void ShowOptions(RecordEdit& form, const PhaseRecord& phase) {
-    switch (phase.eruptionType) {
-        case EruptionType::Tectonic: ShowTectonics(form, phase); break;
-        case EruptionType::Vulcanian:
-            form.chkDirected.SetValue(phase.directedFlag);
-            form.chkCald.SetValue(phase.calderaFlag);
-            break;
-        case EruptionType::Strombolian:
-        case EruptionType::Plinian: form.chkCald.SetValue(phase.calderaFlag); break;
-        case EruptionType::Hawaiian:
-        case EruptionType::Pelean: ShowFlows(form, phase); break;
-        case EruptionType::Fumarolic: form.chkBurst.SetValue(phase.burstFlag); break;
-        default: break;
+    const auto show = [&phase](CheckBox& box, const PhaseField& flag) {
+        if (Offers(phase, flag)) {
+            box.SetValue(static_cast<int>(ValueOf(phase, flag)));
+        }
+    };
+    show(form.chkDirected, FieldOf(&PhaseRecord::directedFlag));
+    show(form.chkCald, FieldOf(&PhaseRecord::calderaFlag));
+    show(form.chkBurst, FieldOf(&PhaseRecord::burstFlag));
+    if (HasFlows(phase)) {
+        ShowFlows(form, phase);
+    }
+    if (phase.eruptionType == EruptionType::Tectonic) {
+        ShowTectonics(form, phase);
     }
 }
 
@@ -78,16 +79,12 @@ void ShowType(RecordEdit& form, Integer pha) {
     }
 }
 
-Single Value(const PhaseRecord& phase, const FieldMember& member) {
-    return std::visit([&phase](auto each) { return static_cast<Single>(phase.*each); }, member);
-}
-
 // The box of a field that comes later may change what an earlier one stored, so each field is read
 // when its box is filled.
 void FillBoxes(RecordEdit& form, Integer pha) {
-    for (const Field& field : Fields) {
-        const Single value = Value(form.EditPhases[pha], field.member);
-        (form.*field.box).SetText(form.TextOf(value, field.onShow));
+    for (const FieldBox& row : FieldBoxes) {
+        const Single value = ValueOf(form.EditPhases[pha], row.field);
+        (form.*row.box).SetText(form.TextOf(value, row.onShow));
     }
 }
 

@@ -11,21 +11,21 @@
 namespace {
 
 // Only the boxes with a floor can hold a number beyond 16 bits, and those replace it first.
-void Store(RecordEdit& form, const Field& field) {
-    const Single value = form.NumberIn(form.*field.box);
+void StoreNumber(RecordEdit& form, const FieldBox& row) {
+    const Single value = form.NumberIn(form.*row.box);
     PhaseRecord& phase = form.CurrentPhase();
-    if (const auto* single = std::get_if<Single PhaseRecord::*>(&field.member)) {
+    if (const auto* single = std::get_if<Single PhaseRecord::*>(&row.field.member)) {
         phase.** single = value;
     } else if (const auto rounded = RoundToInteger(value)) {
-        phase.*std::get<Integer PhaseRecord::*>(field.member) = *rounded;
+        phase.*std::get<Integer PhaseRecord::*>(row.field.member) = *rounded;
     }
 }
 
 // Brings the text into the range, in form; the number it then stands for.
-Single Limit(RecordEdit& form, const Field& field) {
-    TextBox& box = form.*field.box;
-    const Single value = std::clamp(form.NumberIn(box), field.rule.low, field.rule.high);
-    box.SetText(form.TextOf(value, field.rewritten));
+Single HoldInRange(RecordEdit& form, const FieldBox& row) {
+    TextBox& box = form.*row.box;
+    const Single value = std::clamp(form.NumberIn(box), row.field.range.low, row.field.range.high);
+    box.SetText(form.TextOf(value, row.rewritten));
     return value;
 }
 
@@ -75,13 +75,13 @@ constexpr CalderaRow Calderas[] = {
 
 }  // namespace
 
-void Field_Change(RecordEdit& form, const Field& field) {
-    switch (field.rule.kind) {
-        case Rule::Store: break;
-        case Rule::Range: Limit(form, field); break;
-        case Rule::AboveZero: LiftAboveZero(form, form.*field.box); break;
+void Field_Change(RecordEdit& form, const FieldBox& row) {
+    switch (row.field.range.kind) {
+        case FieldRange::Any: break;
+        case FieldRange::Between: HoldInRange(form, row); break;
+        case FieldRange::AboveZero: LiftAboveZero(form, form.*row.box); break;
     }
-    Store(form, field);
+    StoreNumber(form, row);
 }
 
 void txtStr_Change(RecordEdit& form) {
@@ -99,14 +99,14 @@ void txtStr_Change(RecordEdit& form) {
 }
 
 void txtDip_Change(RecordEdit& form) {
-    const Field& field = FieldOf(&RecordEdit::txtDip);
-    // The number of this run decides, also when a nested run has seen a rounded one.
-    form.cmbDown.SetEnabled(Limit(form, field) == 0);
-    Store(form, field);
+    const FieldBox& row = BoxRow(&RecordEdit::txtDip);
+    // The number as typed decides, even if the nested run saw it rounded.
+    form.cmbDown.SetEnabled(HoldInRange(form, row) == 0);
+    StoreNumber(form, row);
 }
 
 void txtBurst_Change(RecordEdit& form) {
-    Field_Change(form, FieldOf(&RecordEdit::txtBurst));
+    Field_Change(form, BoxRow(&RecordEdit::txtBurst));
     if (HasFlows(form.CurrentPhase())) {
         BuildFlows(form);
     }

@@ -5,7 +5,7 @@
 #include "editing/Fields.h"
 
 /// The Change handler of every box that does no more than its rule says.
-void Field_Change(RecordEdit& form, const Field& field);
+void Field_Change(RecordEdit& form, const FieldBox& row);
 
 /// The boxes that do more than their rule, or have none: the strength tells whether there can be a
 /// caldera, the dip whether there is a down side, the bursts how many flows there are.

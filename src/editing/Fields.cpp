@@ -8,39 +8,35 @@ using enum Format;
 using E = RecordEdit;
 using P = PhaseRecord;
 
-constexpr Rule Store{Rule::Store};
-constexpr Rule AboveZero{Rule::AboveZero};
-constexpr Rule Range(Single low, Single high) { return {Rule::Range, low, high}; }
-
 }  // namespace
 
 // clang-format off
-constexpr std::array<Field, 20> Fields{{
-    // box         field               rule            on show      rewritten
-    {&E::txtLoc,    &P::ventLocation,   Store,          TwoDecimals, {}},
-    {&E::txtWind,   &P::wind,           Store,          Whole,       {}},
-    {&E::txtPart,   &P::massFlux,       Range(1, 50),   Whole,       Plain},
-    {&E::txtBurst,  &P::burstCount,     AboveZero,      Whole,       {}},
-    {&E::txtStr,    &P::strength,       Store,          TwoDecimals, {}},
-    {&E::txtCtop,   &P::scarpTop,       Store,          TwoDecimals, {}},
-    {&E::txtCbase,  &P::scarpBase,      Store,          TwoDecimals, {}},
-    {&E::txtMag,    &P::faultMagnitude, Range(0, 20),   Whole,       Whole},
-    {&E::txtDip,    &P::faultDip,       Range(-10, 10), Whole,       Whole},
-    {&E::txtErode,  &P::erosionCycles,  AboveZero,      Whole,       {}},
-    {&E::txtSlide1, &P::flowLength,     Range(1, 11),   Whole,       Whole},
-    {&E::txtSlide2, &P::craterSize,     Range(1, 11),   Whole,       Whole},
-    {&E::txtSlide3, &P::position3D,     Range(0, 40),   Whole,       Whole},
-    {&E::txtSlide4, &P::ventPosition,   Range(1, 11),   Whole,       Whole},
-    {&E::txtSlide5, &P::growth,         Range(0, 9),    Whole,       Whole},
-    {&E::txtSlide6, &P::speed,          Range(1, 11),   Whole,       Whole},
-    {&E::txtMap1,   &P::midRadius,      Store,          Whole,       {}},
-    {&E::txtMap2,   &P::depositAngle,   Store,          TwoDecimals, {}},
-    {&E::txtMap3,   &P::leftAngle,      Store,          TwoDecimals, {}},
-    {&E::txtMap4,   &P::rightAngle,     Store,          TwoDecimals, {}},
+constexpr std::array<FieldBox, 20> FieldBoxes{{
+    // label         box            field                        on show      rewritten
+    {&E::labLoc,    &E::txtLoc,    FieldOf(&P::ventLocation),   TwoDecimals, {}},
+    {&E::labWind,   &E::txtWind,   FieldOf(&P::wind),           Whole,       {}},
+    {&E::labPart,   &E::txtPart,   FieldOf(&P::massFlux),       Whole,       Plain},
+    {&E::labBurst,  &E::txtBurst,  FieldOf(&P::burstCount),     Whole,       {}},
+    {&E::labStr,    &E::txtStr,    FieldOf(&P::strength),       TwoDecimals, {}},
+    {&E::labCtop,   &E::txtCtop,   FieldOf(&P::scarpTop),       TwoDecimals, {}},
+    {&E::labCbase,  &E::txtCbase,  FieldOf(&P::scarpBase),      TwoDecimals, {}},
+    {&E::labMag,    &E::txtMag,    FieldOf(&P::faultMagnitude), Whole,       Whole},
+    {&E::labDip,    &E::txtDip,    FieldOf(&P::faultDip),       Whole,       Whole},
+    {&E::labErode,  &E::txtErode,  FieldOf(&P::erosionCycles),  Whole,       {}},
+    {&E::labSlide1, &E::txtSlide1, FieldOf(&P::flowLength),     Whole,       Whole},
+    {&E::labSlide2, &E::txtSlide2, FieldOf(&P::craterSize),     Whole,       Whole},
+    {&E::labSlide3, &E::txtSlide3, FieldOf(&P::position3D),     Whole,       Whole},
+    {&E::labSlide4, &E::txtSlide4, FieldOf(&P::ventPosition),   Whole,       Whole},
+    {&E::labSlide5, &E::txtSlide5, FieldOf(&P::growth),         Whole,       Whole},
+    {&E::labSlide6, &E::txtSlide6, FieldOf(&P::speed),          Whole,       Whole},
+    {&E::labMap1,   &E::txtMap1,   FieldOf(&P::midRadius),      Whole,       {}},
+    {&E::labMap2,   &E::txtMap2,   FieldOf(&P::depositAngle),   TwoDecimals, {}},
+    {&E::labMap3,   &E::txtMap3,   FieldOf(&P::leftAngle),      TwoDecimals, {}},
+    {&E::labMap4,   &E::txtMap4,   FieldOf(&P::rightAngle),     TwoDecimals, {}},
 }};
 // clang-format on
 
-const Field& FieldOf(BoxMember box) {
-    return *std::find_if(Fields.begin(), Fields.end(),
-                         [box](const Field& field) { return field.box == box; });
+const FieldBox& BoxRow(BoxMember box) {
+    return *std::find_if(FieldBoxes.begin(), FieldBoxes.end(),
+                         [box](const FieldBox& row) { return row.box == box; });
 }

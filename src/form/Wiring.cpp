@@ -14,9 +14,9 @@
 namespace {
 
 void WireFields(RecordEdit& form) {
-    for (const Field& field : Fields) {
-        TextBox& box = form.*field.box;
-        box.Change = [&form, &field] { Field_Change(form, field); };
+    for (const FieldBox& row : FieldBoxes) {
+        TextBox& box = form.*row.box;
+        box.Change = [&form, &row] { Field_Change(form, row); };
         box.KeyPress = [&form] { Field_KeyPress(form); };
         box.GotFocus = [&form] { SelectActiveText(form); };
     }

@@ -26,6 +26,12 @@ constexpr Integer Collapse = 6;
 constexpr Integer Fumarolic = 7;
 }  // namespace EruptionType
 
+/// The codes of types run from Tectonic to here without a gap.
+constexpr Integer LastEruptionType = EruptionType::Fumarolic;
+constexpr bool IsEruptionType(Integer code) {
+    return code >= EruptionType::Tectonic && code <= LastEruptionType;
+}
+
 /// Codes of `PhaseRecord::tectonicKind`; anything but Faulting is shown as Erosion.
 namespace TectonicKind {
 constexpr Integer Faulting = 1;

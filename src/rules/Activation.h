@@ -1,5 +1,5 @@
-// Which parameter controls a type of phase uses, as one grid. It sets the form up at every
-// display; what happens while a phase stays on show is told by the handlers of the controls.
+// Setting the form up for a type of phase at every display, by the grid of what each type uses.
+// What happens while a phase stays on show is in the handlers of the controls.
 #pragma once
 
 #include "record/PhaseRecord.h"

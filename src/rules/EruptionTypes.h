@@ -2,6 +2,7 @@
 // fault throws down. What the lists offer and what each entry stands for.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <optional>
 #include <string_view>
@@ -26,6 +27,22 @@ constexpr std::array<TypeEntry, 9> TypeEntries{{
     {"Faulting", EruptionType::Tectonic, TectonicKind::Faulting},
     {"Erosion", EruptionType::Tectonic, TectonicKind::Erosion},
 }};
+
+// A type that the list does not offer, or an entry of a type that the grids do not have.
+static_assert(
+    [] {
+        int known = 0;
+        for (Integer type = 0; type <= LastEruptionType; ++type) {
+            known +=
+                std::any_of(TypeEntries.begin(), TypeEntries.end(),
+                            [type](const TypeEntry& entry) { return entry.eruptionType == type; });
+        }
+        return known == LastEruptionType + 1 &&
+               std::all_of(TypeEntries.begin(), TypeEntries.end(), [](const TypeEntry& entry) {
+                   return IsEruptionType(entry.eruptionType);
+               });
+    }(),
+    "each eruption type has an entry, and each entry a type");
 
 /// The entry of that name, letter for letter; null if there is none.
 const TypeEntry* FindType(std::string_view name);

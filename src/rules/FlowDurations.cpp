@@ -21,7 +21,13 @@ int Fit16(int value) {
     return value;
 }
 
-Single ShortestFlow(bool hawaiian) { return hawaiian ? 20.0F : 10.0F; }
+Single Shortest(bool hawaiian) { return hawaiian ? 20.0F : 10.0F; }
+
+}  // namespace
+
+Single ShortestFlow(Integer eruptionType) {
+    return Shortest(eruptionType == EruptionType::Hawaiian);
+}
 
 double LongestFlow(const PhaseRecord& phase, int flow) {
     const bool hawaiian = phase.eruptionType == EruptionType::Hawaiian;
@@ -33,17 +39,16 @@ double LongestFlow(const PhaseRecord& phase, int flow) {
     return neutral + Fit16(steps * neutral) / 10.0;
 }
 
-}  // namespace
-
 RandomSource NewRandomSource() {
     return [engine = std::mt19937()]() mutable {
         return static_cast<Single>(engine() >> 8U) / 16777216.0F;
     };
 }
 
-std::optional<BadFlow> FirstBadFlow(const PhaseRecord& phase, const FlowRow& flows) {
-    const Single shortest = ShortestFlow(phase.eruptionType == EruptionType::Hawaiian);
-    for (int j = 1; j <= phase.burstCount; ++j) {
+std::optional<BadFlow> FirstBadFlow(const PhaseRecord& phase, const FlowRow& flows, int first,
+                                    int last) {
+    const Single shortest = ShortestFlow(phase.eruptionType);
+    for (int j = first; j <= last; ++j) {
         const Single duration = flows[j];
         if (duration < shortest) {
             return BadFlow{j, true};
@@ -61,5 +66,5 @@ Single NewFlowDuration(bool hawaiian, Integer flowLength, int flow, Single r) {
     const auto raw = static_cast<Single>(static_cast<double>(r) * span);
     const auto drawn = static_cast<double>(raw);
     const auto scaled = static_cast<Single>(steps * drawn / 10.0 + drawn);
-    return std::max(scaled, ShortestFlow(hawaiian));
+    return std::max(scaled, Shortest(hawaiian));
 }

@@ -19,10 +19,15 @@ struct BadFlow {
     bool tooShort;  // otherwise too long
 };
 
-/// The first of the flows 1 to `burstCount` of a Hawaiian or Peléean phase that is out of its
-/// limits, if any. Throws std::overflow_error where a ceiling leaves 16 bits and std::out_of_range
-/// where a hundred flows do not reach.
-std::optional<BadFlow> FirstBadFlow(const PhaseRecord& phase, const FlowRow& flows);
+/// The limits of the duration of a flow of a Hawaiian or Peléean phase; both pass. The ceiling
+/// throws std::overflow_error where it leaves 16 bits.
+Single ShortestFlow(Integer eruptionType);
+double LongestFlow(const PhaseRecord& phase, int flow);
+
+/// The first of the flows `first` to `last` of a Hawaiian or Peléean phase that is out of its
+/// limits, if any. Throws as above, and std::out_of_range for a flow above 100.
+std::optional<BadFlow> FirstBadFlow(const PhaseRecord& phase, const FlowRow& flows, int first,
+                                    int last);
 
 /// A new duration for flow number `flow`, from one draw r. `hawaiian` tells the rule, not the
 /// phase. The result lies within the limits above for a `flowLength` of 1 to 11.

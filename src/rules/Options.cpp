@@ -4,6 +4,7 @@
 #include "form/RecordEdit.h"
 #include "rules/Activation.h"
 #include "rules/EruptionTypes.h"
+#include "rules/FieldUse.h"
 
 namespace {
 
@@ -39,8 +40,7 @@ void chkCald_Click(RecordEdit& form) {
     Choose(form, [&form](PhaseRecord& phase) {
         form.cmbStyle.SetText(NoStyleText);
         phase.calderaFlag = Flag(form.chkCald);
-        if (phase.calderaFlag == 1 && (phase.eruptionType == EruptionType::Vulcanian ||
-                                       phase.eruptionType == EruptionType::Plinian)) {
+        if (phase.calderaFlag == 1 && Offers(phase, FieldOf(&PhaseRecord::calderaStyle))) {
             OpenCaldera(form);
         } else {
             form.cmbStyle.SetEnabled(false);
