@@ -37,7 +37,7 @@ bool Read(std::string_view bytes, std::size_t piece, EditorState& state) {
     state.StratFile.clear();
     state.LoadedPhaseCount = state.RecordScale = 0;
     Pieces source(bytes, piece);
-    return ReadRecord(source, state);
+    return static_cast<bool>(ReadRecord(source, state));
 }
 
 bool Same(const EditorState& a, const EditorState& b) {

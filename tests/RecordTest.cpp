@@ -39,7 +39,7 @@ const std::pair<std::string, std::string> ChangesOfTheFormOnly[] = {
 struct RecordTest : testing::Test, EditorState {
     bool Read(const std::string& bytes) {
         std::stringbuf source(bytes);
-        return ReadRecord(source, *this);
+        return static_cast<bool>(ReadRecord(source, *this));
     }
     std::string Written() const {
         std::stringbuf target;

@@ -12,6 +12,7 @@
 namespace {
 
 constexpr std::size_t Piece = 32768;
+constexpr const char* TooLong = "an item is longer than 65,535 bytes";
 
 enum Kind : unsigned char { Plain = 0, Comma = 1, LineEnd = 2, Blank = 4, Quote = 8 };
 
@@ -24,14 +25,16 @@ constexpr std::array<unsigned char, 256> Kinds = [] {
     return kinds;
 }();
 
+unsigned KindOf(char c) { return Kinds[static_cast<unsigned char>(c)]; }
+
 }  // namespace
 
-// A piece more than the longest item that is waiting for its end.
+// Room for the longest unfinished item and one more piece.
 ItemReader::ItemReader(std::streambuf& stream) : source(stream), buffer(LongestItem + Piece) {}
 
 std::string_view ItemReader::Text() {
     std::string_view item = Next(Comma | LineEnd);
-    if (behind == Behind::Separator) {
+    if (pending == Pending::Separator) {
         item.remove_suffix(item.size() - (item.find_last_not_of(' ') + 1));
     }
     return item;
@@ -51,20 +54,21 @@ void ItemReader::Read(Integer& value) {
     }
     const auto rounded = RoundToInteger(Convert<double>());
     if (!rounded) {
-        throw ReadError("Overflow");
+        throw ReadError("the number is out of its range");
     }
     value = *rounded;
 }
 
 bool ItemReader::Is(std::size_t position, unsigned kinds) const {
-    return (Kinds[static_cast<unsigned char>(buffer[position])] & kinds) != 0;
+    return (KindOf(buffer[position]) & kinds) != 0;
 }
 
 // A number as files mostly have it, with its separator in the buffer, needs no second look. False,
 // and nothing taken, for any other item.
 template <class Number>
 bool ItemReader::ReadInPlace(Number& value) {
-    PassBehind();
+    PassPending();
+    itemLine = line;
     Number number = 0;
     const auto [stop, error] = std::from_chars(buffer.data() + at, buffer.data() + end, number);
     const auto after = static_cast<std::size_t>(stop - buffer.data());
@@ -82,16 +86,18 @@ template <class Number>
 Number ItemReader::Convert() {
     Number number = 0;
     if (FromDecimal(Next(Comma | LineEnd | Blank), number) == Conversion::TooLarge) {
-        throw ReadError("Overflow");
+        throw ReadError("the number is out of its range");
     }
     return number;
 }
 
 std::string_view ItemReader::Next(unsigned ends) {
-    PassBehind();
+    PassPending();
     SkipWhile([this] { return Is(at, Blank); });
+    itemLine = line;
     if (!More()) {
-        throw ReadError("Input past end of file");
+        itemLine -= (KindOf(lastByte) & LineEnd) != 0 ? 1 : 0;
+        throw ReadError("the file ends before the record does");
     }
     const bool quoted = Is(at, Quote);
     if (quoted) {
@@ -100,30 +106,41 @@ std::string_view ItemReader::Next(unsigned ends) {
     const std::size_t length = Measure(quoted ? unsigned{Quote} : ends);
     const std::string_view item(buffer.data() + at, length);
     at += length;
-    behind = quoted ? Behind::Rest : Behind::Separator;
+    line += quoted ? LineEndsIn(at - length, at) : 0;
+    pending = quoted ? Pending::Rest : Pending::Separator;
     return item;
 }
 
-// Takes what belongs to the last item: blanks and one comma or line end; behind a closing quote
+// Takes what belongs to the last item: blanks and one comma or line end; after a closing quote
 // anything up to there.
-void ItemReader::PassBehind() {
-    const Behind left = std::exchange(behind, Behind::Nothing);
-    if (left == Behind::Rest) {
+void ItemReader::PassPending() {
+    const Pending left = std::exchange(pending, Pending::Nothing);
+    if (left == Pending::Rest) {
         at += at < end ? 1 : 0;  // the closing quote
         SkipWhile([this] { return !Is(at, Comma | LineEnd); });
-    } else if (left == Behind::Separator && More() && Is(at, Blank)) {
+    } else if (left == Pending::Separator && More() && Is(at, Blank)) {
         SkipWhile([this] { return Is(at, Blank); });
     }
-    if (left != Behind::Nothing && More() && Is(at, Comma | LineEnd)) {
+    if (left != Pending::Nothing && More() && Is(at, Comma | LineEnd)) {
         TakeSeparator();
     }
 }
 
 void ItemReader::TakeSeparator() {
     const char separator = buffer[at++];
+    line += separator == ',' ? 0 : 1;
     if (separator == '\r' && More() && buffer[at] == '\n') {
         ++at;
     }
+}
+
+int ItemReader::LineEndsIn(std::size_t first, std::size_t last) const {
+    int count = 0;
+    for (std::size_t i = first; i < last; ++i) {
+        const bool secondOfPair = buffer[i] == '\n' && i > first && buffer[i - 1] == '\r';
+        count += Is(i, LineEnd) && !secondOfPair ? 1 : 0;
+    }
+    return count;
 }
 
 // However much there is to skip, it belongs to one item, and an item has an end.
@@ -131,7 +148,7 @@ template <class Condition>
 void ItemReader::SkipWhile(Condition condition) {
     for (std::size_t skipped = 0; More() && condition(); ++at) {
         if (++skipped > LongestItem) {
-            throw ReadError("Item too long");
+            throw ReadError(TooLong);
         }
     }
 }
@@ -144,13 +161,13 @@ std::size_t ItemReader::Measure(unsigned ends) {
             ++length;
         }
         if (length > LongestItem) {
-            throw ReadError("Item too long");
+            throw ReadError(TooLong);
         }
     } while (at + length == end && Refill());
     return length;
 }
 
-// Brings in another piece behind what is not yet taken; false at the end of the stream, which stays
+// Brings in another piece after what is not yet taken; false at the end of the stream, which stays
 // the end even if the stream has more to give after a fault.
 bool ItemReader::Refill() {
     if (ended) {
@@ -161,6 +178,9 @@ bool ItemReader::Refill() {
     at = 0;
     const std::streamsize got = source.sgetn(buffer.data() + end, Piece);
     ended = got <= 0;
-    end += ended ? 0 : static_cast<std::size_t>(got);
+    if (!ended) {
+        end += static_cast<std::size_t>(got);
+        lastByte = buffer[end - 1];
+    }
     return !ended;
 }

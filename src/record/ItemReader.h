@@ -1,8 +1,9 @@
-// The items of a stream one after another, texts and numbers. What they mean in a record stands in
-// RecordFile.
+// The items of a stream one after another, texts and numbers, and the lines that they are on. What
+// they mean in a record is in RecordItems.
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <stdexcept>
 #include <streambuf>
 #include <string_view>
@@ -10,21 +11,21 @@
 
 #include "record/PhaseRecord.h"
 
-/// Why an item cannot be read: the stream is at its end or has failed, the item is longer than
-/// LongestItem, or its number is out of range.
+/// Why an item cannot be read, in words for the user: the stream is at its end, the item is longer
+/// than LongestItem, or its number is out of range. A stream that fails throws its own failure.
 struct ReadError : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-/// The most bytes that an item can have, or that can be passed over before or behind it.
+/// The most bytes that an item can have, or that can be passed over before or after it.
 constexpr std::size_t LongestItem = 65535;
 
 /// Cuts a stream into items. It looks no further ahead than the piece in which an item ends, and
-/// what stands behind an item is taken only when the next one is asked for. Every read throws
-/// ReadError where there is no item to be had.
+/// what comes after an item is taken only when the next one is asked for. Every read throws
+/// ReadError where there is no item.
 class ItemReader {
 public:
-    /// The stream is to outlive the reader.
+    /// The stream must outlive the reader.
     explicit ItemReader(std::streambuf& stream);
 
     /// An item of any kind, as text; the view holds until the next item is read.
@@ -37,9 +38,14 @@ public:
     void Read(Single& value);
     void Read(Integer& value);
 
+    /// The line of the last item's first character, counted from 1: of its opening quote, or of the
+    /// separator of an empty item. CR LF, LF and CR end a line, in quotes too. Where there was no
+    /// item, the last line that holds a byte.
+    std::int64_t Line() const { return itemLine; }
+
 private:
-    // What still stands between the last item and the next.
-    enum class Behind { Nothing, Separator, Rest };
+    // What is still between the last item and the next.
+    enum class Pending { Nothing, Separator, Rest };
 
     bool Is(std::size_t position, unsigned kinds) const;
     template <class Number>
@@ -47,11 +53,12 @@ private:
     template <class Number>
     Number Convert();
     std::string_view Next(unsigned ends);
-    void PassBehind();
+    void PassPending();
     void TakeSeparator();
     template <class Condition>
     void SkipWhile(Condition condition);
     std::size_t Measure(unsigned ends);
+    int LineEndsIn(std::size_t first, std::size_t last) const;
     bool More() { return at < end || Refill(); }
     bool Refill();
 
@@ -60,5 +67,8 @@ private:
     std::size_t at = 0;
     std::size_t end = 0;
     bool ended = false;
-    Behind behind = Behind::Nothing;
+    char lastByte = 0;  // that the stream has given
+    Pending pending = Pending::Nothing;
+    std::int64_t line = 1;  // of what comes next
+    std::int64_t itemLine = 1;
 };

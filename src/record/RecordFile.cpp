@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <charconv>
 #include <exception>
 #include <filesystem>
@@ -9,6 +10,7 @@
 #include <stdexcept>
 #include <string_view>
 #include <system_error>
+#include <utility>
 
 #include "record/ItemReader.h"
 
@@ -16,56 +18,34 @@ namespace {
 
 constexpr std::size_t Piece = 16384;
 
-// The lines of a phase block that hold its fields, in the order of the file, which is not quite
-// the declared one: burstFlag stands behind burstCount. The reader and the writer share it.
-template <class Phase, class Line>
-void ForEachLine(Phase& p, Line&& line) {
-    line(p.ventLocation, p.eruptionType, p.strength, p.wind);
-    line(p.massFlux, p.calderaFlag, p.directedFlag, p.calderaStyle);
-    line(p.scarpTop, p.scarpBase, p.burstCount, p.burstFlag);
-    line(p.tectonicKind, p.faultMagnitude, p.faultDip, p.faultDownSide, p.erosionCycles);
-    line(p.flowLength, p.craterSize, p.position3D, p.ventPosition, p.growth, p.speed);
-    line(p.midRadius, p.depositAngle, p.leftAngle, p.rightAngle);
-}
+constexpr std::string_view Comma = ",";
+constexpr std::string_view LineEnd = "\r\n";
 
-void ReadPhase(ItemReader& in, PhaseRecord& phase, FlowRow& flows) {
-    in.Text();  // the empty line
-    in.Text();  // the literal
-    in.SkipNumber();
-    ForEachLine(phase, [&in](auto&... fields) { (in.Read(fields), ...); });
-    if (HasFlows(phase)) {
-        for (int j = 1; j <= phase.burstCount; ++j) {
-            in.Read(flows[j]);
-        }
-    }
-}
-
-void ReadItems(ItemReader& in, EditorState& state) {
-    in.Text();
-    state.StratFile = in.Text();
-    in.Text();
-    Integer count = 0;
-    in.Read(count);
-    if (count < 0 || count > MaxPhases) {
-        throw ReadError("Phase count out of range");
-    }
-    state.LoadedPhaseCount = count;
-    in.Read(state.RecordScale);
-    for (int i = 1; i <= state.LoadedPhaseCount; ++i) {
-        ReadPhase(in, state.LoadedPhases[i], state.LoadedFlows[i]);
-    }
-}
-
-// Builds lines of items and hands them to a stream, a piece at a time.
+// Builds lines of items and hands them to a stream, a piece at a time. Every item brings what comes
+// after it.
 class LineWriter {
 public:
     explicit LineWriter(std::streambuf& stream) : target(stream) {}
 
-    template <class... Items>
-    void Line(const Items&... items) {
-        [[maybe_unused]] const std::size_t start = text.size();
-        ((Separate(start), Add(items)), ...);
-        text += "\r\n";
+    void Add(std::string_view item, std::string_view after) {
+        text += '"';
+        text += item;
+        text += '"';
+        End(after);
+    }
+    void Add(Integer item, std::string_view after) {
+        AddDigits(after, [item](char* to, char* end) { return std::to_chars(to, end, item).ptr; });
+    }
+    void Add(Single item, std::string_view after) {
+        const Single unsignedZero = item == 0 ? 0 : item;
+        AddDigits(after, [unsignedZero](char* to, char* end) {
+            end = std::to_chars(to, end, unsignedZero, std::chars_format::general, 7).ptr;
+            std::replace(to, end, 'e', 'E');
+            return end;
+        });
+    }
+    void End(std::string_view after) {
+        text += after;
         if (text.size() >= Piece) {
             Flush();
         }
@@ -79,70 +59,73 @@ public:
     }
 
 private:
-    void Separate(std::size_t lineStart) {
-        if (text.size() > lineStart) {
-            text += ',';
-        }
-    }
-    void Add(std::string_view item) {
-        text += '"';
-        text += item;
-        text += '"';
-    }
-    void Add(Integer item) {
-        std::array<char, 8> digits{};
-        const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), item);
-        text.append(digits.data(), end.ptr);
-    }
-    void Add(Single item) {
-        std::array<char, 24> digits{};
-        const Single unsignedZero = item == 0 ? 0 : item;
-        const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), unsignedZero,
-                                       std::chars_format::general, 7);
-        std::replace(digits.data(), end.ptr, 'e', 'E');
-        text.append(digits.data(), end.ptr);
+    template <class Digits>
+    void AddDigits(std::string_view after, Digits digits) {
+        std::array<char, 24> item{};
+        char* const end = digits(item.data(), item.data() + item.size() - after.size());
+        text.append(item.data(), std::copy(after.begin(), after.end(), end));
+        End("");
     }
 
     std::streambuf& target;
     std::string text;
 };
 
-void WriteLines(LineWriter& out, const EditorState& state) {
-    out.Line("Stratigraphic file:", std::string_view(state.StratFile));
-    out.Line("Recorded phases", state.LoadedPhaseCount, state.RecordScale);
-    for (Integer i = 1; i <= state.LoadedPhaseCount; ++i) {
-        const PhaseRecord& phase = state.LoadedPhases[i];
-        out.Line();
-        out.Line("Record Phase: ", i);
-        ForEachLine(phase, [&out](const auto&... fields) { out.Line(fields...); });
-        if (HasFlows(phase)) {
-            for (int j = 1; j <= phase.burstCount; ++j) {
-                out.Line(state.LoadedFlows[i][j]);
-            }
+void WritePhase(LineWriter& out, Integer number, const PhaseRecord& phase, const FlowRow& flows) {
+    out.End(LineEnd);
+    out.Add("Record Phase: ", Comma);
+    out.Add(number, LineEnd);
+    ForEachField(phase, [&out](auto index, const auto& value) {
+        constexpr std::size_t next = index + 1;
+        constexpr bool endsLine =
+            next == PhaseFields.size() || PhaseFields[next].line != PhaseFields[index].line;
+        out.Add(value, endsLine ? LineEnd : Comma);
+    });
+    if (HasFlows(phase)) {
+        for (int j = 1; j <= phase.burstCount; ++j) {
+            out.Add(flows[j], LineEnd);
         }
+    }
+}
+
+void WriteLines(LineWriter& out, const EditorState& state) {
+    out.Add("Stratigraphic file:", Comma);
+    out.Add(std::string_view(state.StratFile), LineEnd);
+    out.Add("Recorded phases", Comma);
+    out.Add(state.LoadedPhaseCount, Comma);
+    out.Add(state.RecordScale, LineEnd);
+    for (Integer i = 1; i <= state.LoadedPhaseCount; ++i) {
+        WritePhase(out, i, state.LoadedPhases[i], state.LoadedFlows[i]);
     }
     out.Flush();
 }
 
+ReadResult NotOpened(std::string reason) {
+    return {ReadFailure{.reason = std::move(reason), .line = 0, .place = {}, .device = false}};
+}
+
 }  // namespace
 
-bool ReadRecord(std::streambuf& source, EditorState& state) {
+ReadResult ReadRecord(std::streambuf& source, EditorState& state) {
     try {
         ItemReader in(source);
-        ReadItems(in, state);
-        return true;
-    } catch (const std::exception&) {
-        return false;
+        return ReadRecordWith(in, state);
+    } catch (const std::exception& error) {  // no memory for the reader
+        return NotOpened(error.what());
     }
 }
 
-bool ReadRecordFile(const std::string& path, EditorState& state) {
+ReadResult ReadRecordFile(const std::string& path, EditorState& state) {
     std::error_code error;
     if (!std::filesystem::is_regular_file(path, error)) {
-        return false;  // opening a pipe would wait for somebody to write into it
+        // Opening a pipe would wait for somebody to write into it.
+        return NotOpened(error ? error.message() : "not a regular file");
     }
     std::filebuf file;
-    return file.open(path, std::ios::in | std::ios::binary) != nullptr && ReadRecord(file, state);
+    if (file.open(path, std::ios::in | std::ios::binary) == nullptr) {
+        return NotOpened(std::generic_category().message(errno));
+    }
+    return ReadRecord(file, state);
 }
 
 bool WriteRecord(std::streambuf& target, const EditorState& state) {

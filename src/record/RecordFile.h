@@ -7,21 +7,53 @@
 //     "Recorded phases",LoadedPhaseCount,RecordScale
 //
 // and for each phase an empty line, the line "Record Phase: ",number and six lines with its 27
-// fields; for Hawaiian and Peléean phases a line for each flow duration behind them.
+// fields; for Hawaiian and Peléean phases a line for each flow duration next.
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <streambuf>
 #include <string>
+#include <system_error>
 
 #include "record/EditorState.h"
+#include "record/RecordItems.h"
+
+/// Where and why a read ended before its record did.
+struct ReadFailure {
+    std::string reason;     // what was wrong, in words for the user
+    std::int64_t line = 0;  // of the item; 0 if the file could not even be opened
+    ItemPlace place = {};   // the item that was to be read
+    bool device = false;    // the file or its device failed, and not its text
+};
+
+/// True when the whole record was read.
+struct ReadResult {
+    std::optional<ReadFailure> failure;
+    explicit operator bool() const { return !failure; }
+};
 
 /// Fills the loaded copy (StratFile, LoadedPhaseCount, RecordScale, LoadedPhases, LoadedFlows)
-/// from a stream, in pieces, and no further than the record calls for. False if the stream ends
+/// from a stream, in pieces, and no further than the record calls for. Fails if the stream ends
 /// too early or fails, or if a count or a number is out of range; what came before it is kept.
-bool ReadRecord(std::streambuf& source, EditorState& state);
+ReadResult ReadRecord(std::streambuf& source, EditorState& state);
+
+/// The same with a reader of one's own, which has the functions of ItemReader.
+template <class Reader>
+ReadResult ReadRecordWith(Reader& in, EditorState& state) {
+    ItemPlace place;
+    try {
+        ReadRecordItems(in, place, state);
+        return {};
+    } catch (const std::system_error& error) {
+        return {ReadFailure{error.code().message(), in.Line(), place, true}};
+    } catch (const std::exception& error) {
+        return {ReadFailure{error.what(), in.Line(), place}};
+    }
+}
 
 /// The same for a regular file or a link to one; anything else under that name reads as failed.
-bool ReadRecordFile(const std::string& path, EditorState& state);
+ReadResult ReadRecordFile(const std::string& path, EditorState& state);
 
 /// Writes the loaded copy. False if the stream takes less than all of it.
 bool WriteRecord(std::streambuf& target, const EditorState& state);
