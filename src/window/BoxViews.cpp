@@ -2,6 +2,7 @@
 
 #include <QAbstractItemView>
 #include <QCursor>
+#include <QFocusEvent>
 #include <QLineEdit>
 #include <QPixmap>
 
@@ -33,15 +34,28 @@ void TextBoxView::Update() {
     View::Update();
 }
 
+// A box that the Tab key only passes is not worked in.
+bool TextBoxView::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::FocusIn) {
+        const Qt::FocusReason reason = static_cast<const QFocusEvent*>(event)->reason();
+        if (reason != Qt::TabFocusReason && reason != Qt::BacktabFocusReason) {
+            NoteWork();
+        }
+    }
+    return View::eventFilter(watched, event);
+}
+
 bool TextBoxView::ShowsText() const { return widget.text() == ToScreen(control.Text()); }
 
 void TextBoxView::TakeKey() {
+    NoteWork();
     const std::string text = TextOnShow();
     control.PressKey(text, BytePlace(text, widget.cursorPosition()));
     TakeSelection();
 }
 
 void TextBoxView::TakeEdit() {
+    NoteWork();
     const std::string text = TextOnShow();
     control.Edit(text, BytePlace(text, widget.cursorPosition()));
     TakeSelection();

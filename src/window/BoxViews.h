@@ -13,6 +13,9 @@ public:
     void Update() override;
     QSize SizeWith(const QString& text) override { return widget.SizeFor(text); }
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     bool ShowsText() const;
     std::string TextOnShow() const;

@@ -172,6 +172,26 @@ void FormWindow::FollowFocus(QWidget* now) {
     }
 }
 
+// The toolkit comes here for the Tab key, and to hand on the focus of a widget that it disables.
+bool FormWindow::focusNextPrevChild(bool next) {
+    const QWidget* const now = focusWidget();
+    if (now == nullptr || now->isEnabled()) {
+        return QWidget::focusNextPrevChild(next);
+    }
+    FocusHeir().Widget().setFocus();
+    return true;
+}
+
+// Where the next key does no harm. Help is open at all times.
+View& FormWindow::FocusHeir() const {
+    for (const Control* heir : {mirror.LastBox(), static_cast<const Control*>(&form.cmbPhase)}) {
+        if (heir != nullptr && heir->OpenToUser()) {
+            return *byControl.at(heir);
+        }
+    }
+    return *byControl.at(&form.cmdHelp);
+}
+
 View* FormWindow::Find(std::string_view name) const {
     const auto found = std::find_if(views.begin(), views.end(),
                                     [name](const auto& view) { return view->Row().name == name; });

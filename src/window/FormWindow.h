@@ -34,6 +34,7 @@ public:
 protected:
     bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
 
 private:
     void MakeViews();
@@ -42,6 +43,7 @@ private:
     void ChainTabs();
     void NameViews();
     void FollowFocus(QWidget* now);
+    View& FocusHeir() const;
 
     View* Find(std::string_view name) const;
     int Pixels(int twips) const;

@@ -11,28 +11,20 @@
 
 namespace {
 
-// As the toolkit sees it: Control and Alt together are the AltGr of some keyboards.
-bool IsCharacter(const QKeyEvent& event) {
-    const bool chord = event.modifiers().testFlag(Qt::ControlModifier) &&
-                       !event.modifiers().testFlag(Qt::AltModifier);
-    return !chord && !event.text().isEmpty() && event.text().front().isPrint();
-}
-
 bool IsPlainKey(const QKeyEvent& event) {
-    constexpr auto chords = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
     const int key = event.key();
     return (key == Qt::Key_Backspace || key == Qt::Key_Return || key == Qt::Key_Enter) &&
-           !(event.modifiers() & chords);
+           !event.modifiers().testFlag(Qt::ControlModifier);
 }
 
 bool IsKeyPress(const QKeyEvent& event) {
-    return IsCharacter(event) || IsPlainKey(event) || event.matches(QKeySequence::Cut) ||
+    return BringsCharacter(event) || IsPlainKey(event) || event.matches(QKeySequence::Cut) ||
            event.matches(QKeySequence::Paste);
 }
 
 }  // namespace
 
-LineBox::LineBox(QWidget* parent) : QLineEdit(parent) {
+LineBox::LineBox(QWidget* parent) : TextLine(parent) {
     connect(this, &QLineEdit::textEdited, this, [this] { editedByUser = true; });
     connect(this, &QLineEdit::textChanged, this, &LineBox::TellIfEdited);
     connect(this, &QLineEdit::selectionChanged, this, &LineBox::TellIfMoved);
@@ -75,7 +67,7 @@ void LineBox::TellIfMoved() {
 
 void LineBox::keyPressEvent(QKeyEvent* event) {
     inKeyPress = IsKeyPress(*event);
-    QLineEdit::keyPressEvent(event);
+    TextLine::keyPressEvent(event);
     if (std::exchange(inKeyPress, false)) {
         emit KeyPressed();
     }
@@ -83,7 +75,7 @@ void LineBox::keyPressEvent(QKeyEvent* event) {
 
 void LineBox::inputMethodEvent(QInputMethodEvent* event) {
     inKeyPress = !event->commitString().isEmpty();
-    QLineEdit::inputMethodEvent(event);
+    TextLine::inputMethodEvent(event);
     if (std::exchange(inKeyPress, false)) {
         emit KeyPressed();
     }
@@ -91,7 +83,7 @@ void LineBox::inputMethodEvent(QInputMethodEvent* event) {
 
 void LineBox::focusInEvent(QFocusEvent* event) {
     focusByMouse = event->reason() == Qt::MouseFocusReason;
-    QLineEdit::focusInEvent(event);
+    TextLine::focusInEvent(event);
 }
 
 // The click that brings the focus leaves the whole text selected. It is not handed on, for it
@@ -99,18 +91,18 @@ void LineBox::focusInEvent(QFocusEvent* event) {
 void LineBox::mousePressEvent(QMouseEvent* event) {
     clickSpent = std::exchange(focusByMouse, false) && event->button() == Qt::LeftButton;
     if (!clickSpent) {
-        QLineEdit::mousePressEvent(event);
+        TextLine::mousePressEvent(event);
     }
 }
 
 void LineBox::mouseMoveEvent(QMouseEvent* event) {
     if (!clickSpent) {
-        QLineEdit::mouseMoveEvent(event);
+        TextLine::mouseMoveEvent(event);
     }
 }
 
 void LineBox::mouseReleaseEvent(QMouseEvent* event) {
     if (!std::exchange(clickSpent, false)) {
-        QLineEdit::mouseReleaseEvent(event);
+        TextLine::mouseReleaseEvent(event);
     }
 }

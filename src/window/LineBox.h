@@ -1,9 +1,9 @@
 // A line of text that tells a key press from any other edit. It knows no control.
 #pragma once
 
-#include <QLineEdit>
+#include "window/TextLine.h"
 
-class LineBox : public QLineEdit {
+class LineBox : public TextLine {
     Q_OBJECT
 
 public:

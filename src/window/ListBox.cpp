@@ -2,7 +2,6 @@
 
 #include <QAbstractItemView>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QScrollBar>
 #include <QStringListModel>
 #include <QStyleOptionComboBox>
@@ -10,6 +9,7 @@
 #include <utility>
 
 #include "window/ScreenText.h"
+#include "window/TextLine.h"
 
 namespace {
 
@@ -21,7 +21,7 @@ bool MovesInList(int key) {
 }  // namespace
 
 ListBox::ListBox(QWidget* parent) : QComboBox(parent), entries(new QStringListModel(this)) {
-    setEditable(true);
+    setLineEdit(new TextLine(this));
     setCompleter(nullptr);
     setInsertPolicy(QComboBox::NoInsert);
     setFocusPolicy(Qt::StrongFocus);

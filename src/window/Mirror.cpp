@@ -24,7 +24,7 @@ void Mirror::BringUpToDate() {
     }
     updating = true;
     // The focus leaves a widget that becomes disabled, and marks more by what it sets off. It goes
-    // to the next enabled widget: so those of enabled controls come first.
+    // to the widget of an enabled control: so those come first.
     const auto enabled = [](const Mirrored* view) { return view->IsEnabled(); };
     while (!marked.empty()) {
         const auto found = std::find_if(marked.begin(), marked.end(), enabled);

@@ -5,6 +5,8 @@
 #include <QObject>
 #include <vector>
 
+class Control;
+
 /// What the mirror brings up to date: the view of one control.
 class Mirrored {
 public:
@@ -41,11 +43,16 @@ public:
     /// Brings all marked views up to date, with those that are marked in the course of it.
     void BringUpToDate();
 
+    /// Remembers the box in which the user last worked; null before the first.
+    void NoteWork(const Control& box) { lastBox = &box; }
+    const Control* LastBox() const { return lastBox; }
+
     /// A signal that a widget gives meanwhile is an echo of the mirror and no user action.
     bool Updating() const { return updating; }
 
 private:
     std::vector<Mirrored*> marked;
+    const Control* lastBox = nullptr;
     int depth = 0;
     bool updating = false;
 };

@@ -62,6 +62,9 @@ protected:
         }
     }
 
+    /// The user works in this box.
+    void NoteWork() { mirror.NoteWork(original); }
+
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:

@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QIcon>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
@@ -96,7 +97,39 @@ private:
     static QString Shown(const QString& caption) { return caption + QChar(0x200E); }
 };
 
-class OptionButtonView : public ViewOf<OptionButton, QRadioButton> {
+// The arrow keys choose the option before or after, as in a group of the toolkit's.
+class OptionWidget : public QRadioButton {
+public:
+    using QRadioButton::QRadioButton;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        switch (event->key()) {
+            case Qt::Key_Left:
+            case Qt::Key_Up: Choose(&QWidget::previousInFocusChain, Qt::BacktabFocusReason); break;
+            case Qt::Key_Right:
+            case Qt::Key_Down: Choose(&QWidget::nextInFocusChain, Qt::TabFocusReason); break;
+            default: QRadioButton::keyPressEvent(event);
+        }
+    }
+
+private:
+    // The chain is a ring, so the last option is followed by the first.
+    void Choose(QWidget* (QWidget::*neighbour)() const, Qt::FocusReason reason) {
+        const auto isOption = [this](QWidget* widget) {
+            return widget->parentWidget() == parentWidget() && widget->isEnabled() &&
+                   qobject_cast<QRadioButton*>(widget) != nullptr;
+        };
+        QWidget* next = this;
+        do {
+            next = (next->*neighbour)();
+        } while (!isOption(next));
+        next->setFocus(reason);
+        qobject_cast<QRadioButton*>(next)->click();
+    }
+};
+
+class OptionButtonView : public ViewOf<OptionButton, OptionWidget> {
 public:
     explicit OptionButtonView(const Subject& subject) : ViewOf(subject) {
         widget.setAutoExclusive(false);  // or the Tab key would reach one of the group only

@@ -17,7 +17,7 @@ TEST_F(WindowTest, KeysOfTheFormDoWhatIsEnabledAndPressNoKeyInABox) {
         {Qt::CTRL | Qt::Key_PageDown, form.cmbPhase, form.cmbPhase.Click},
         {Qt::CTRL | Qt::Key_PageUp, form.cmbPhase, form.cmbPhase.Click, 1, 2},
         {Qt::CTRL | Qt::Key_PageDown, form.cmbPhase, form.cmbPhase.Click, 0, 2},
-        {Qt::CTRL | Qt::Key_W, form.labLoc, form.Unload},
+        {Qt::CTRL | Qt::Key_W, form.labLoc, form.Unload, 0},
     };
     for (const Row& row : rows) {
         int times = 0;
@@ -31,15 +31,6 @@ TEST_F(WindowTest, KeysOfTheFormDoWhatIsEnabledAndPressNoKeyInABox) {
         EXPECT_EQ(times, row.times) << "row " << &row - rows;
         EXPECT_FALSE(form.Command2.Enabled());
     }
-}
-
-TEST_F(WindowTest, TheFocusGoesToTheNextControlThatAPhaseEnables) {
-    PhaseRecord erosion = GoodPhase(EruptionType::Tectonic);
-    erosion.tectonicKind = TectonicKind::Erosion;
-    Open({GoodPhase(EruptionType::Vulcanian), erosion});
-    Find("txtLoc")->setFocus();
-    keyClick(Find("txtLoc"), Qt::Key_PageDown, Qt::ControlModifier);
-    EXPECT_EQ(QApplication::focusWidget()->objectName(), "txtErode") << "and not Delete";
 }
 
 double Brightness(const QColor& color) {

@@ -1,0 +1,46 @@
+#include "window/TextLine.h"
+
+#include <QDropEvent>
+#include <QKeyEvent>
+#include <QMimeData>
+
+namespace {
+
+// Control and Alt together are the AltGr of some keyboards.
+bool IsChord(Qt::KeyboardModifiers held) {
+    held &= Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    return held != 0 && held != (Qt::ControlModifier | Qt::AltModifier);
+}
+
+bool IsText(const QString& text) {
+    return !text.isEmpty() && text.front().category() != QChar::Other_Control;
+}
+
+// With Control the toolkit does not type, but for the digits and signs of the keypad.
+bool IsDeadChord(const QKeyEvent& event) {
+    const auto held = event.modifiers();
+    return IsChord(held) && (held.testFlag(Qt::AltModifier) || held.testFlag(Qt::MetaModifier) ||
+                             (held.testFlag(Qt::KeypadModifier) && IsText(event.text())));
+}
+
+bool BringsFile(const QEvent& event) {
+    const bool dragged = event.type() == QEvent::DragEnter || event.type() == QEvent::DragMove ||
+                         event.type() == QEvent::Drop;
+    return dragged && static_cast<const QDropEvent&>(event).mimeData()->hasUrls();
+}
+
+}  // namespace
+
+bool BringsCharacter(const QKeyEvent& event) {
+    return !IsChord(event.modifiers()) && IsText(event.text());
+}
+
+bool TextLine::event(QEvent* event) {
+    const bool chord =
+        event->type() == QEvent::KeyPress && IsDeadChord(static_cast<const QKeyEvent&>(*event));
+    if (chord || BringsFile(*event)) {
+        event->ignore();
+        return true;
+    }
+    return QLineEdit::event(event);
+}

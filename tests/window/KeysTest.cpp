@@ -1,0 +1,128 @@
+#include "WindowTest.h"
+
+// As a keyboard sends a key that is held: each repetition releases it and presses it again.
+void Hold(QWidget* widget, QKeyCombination key, const QString& text) {
+    constexpr int times = 3;
+    for (int i = 0; i < times; ++i) {
+        QTest::simulateEvent(widget, true, key.key(), key.keyboardModifiers(), text, i > 0);
+        QTest::simulateEvent(widget, false, key.key(), key.keyboardModifiers(), text,
+                             i + 1 < times);
+    }
+}
+
+TEST_F(WindowTest, AChordTypesNothingAndAHeldKeyPressesOnce) {
+    Open({GoodPhase(EruptionType::Vulcanian)});
+    constexpr auto altGr = Qt::CTRL | Qt::ALT;
+    constexpr auto keypad5 = QKeyCombination(Qt::ControlModifier | Qt::KeypadModifier, Qt::Key_5);
+    constexpr auto level5 = QKeyCombination(Qt::GroupSwitchModifier, Qt::Key_5);
+    struct Row {
+        const char* widget;
+        QKeyCombination key;
+        const char* text;
+        Event& event;
+        int times;
+        std::string shown;  // in the box
+    };
+    const Row rows[]{
+        {"txtWind", Qt::ALT | Qt::Key_S, "s", form.txtWind.KeyPress, 0, "10"},
+        {"txtWind", Qt::META | Qt::Key_5, "5", form.txtWind.KeyPress, 0, "10"},
+        {"txtWind", Qt::ALT | Qt::Key_Backspace, "\b", form.txtWind.KeyPress, 0, "10"},
+        {"txtWind", keypad5, "5", form.txtWind.KeyPress, 0, "10"},
+        {"txtWind", altGr | Qt::META | Qt::Key_5, "5", form.txtWind.KeyPress, 0, "10"},
+        {"txtWind", altGr | Qt::Key_5, "5", form.txtWind.KeyPress, 3, "555"},
+        {"txtWind", level5, "5", form.txtWind.KeyPress, 3, "555"},
+        {"txtWind", Qt::Key_Space, "\u200C", form.txtWind.KeyPress, 3, "\u200C\u200C\u200C"},
+        {"cmbType", Qt::ALT | Qt::Key_S, "s", form.cmbType.Click, 0, "Vulcanian/Surtseyan"},
+        {"cmbType", altGr | Qt::Key_S, "s", form.cmbType.Click, 0, "sss"},
+        {"cmdAdd", Qt::Key_Return, "\r", form.cmdAdd.Click, 1, ""},
+        {"cmdAdd", Qt::Key_Enter, "\r", form.cmdAdd.Click, 1, ""},
+        {"cmdAdd", Qt::Key_Space, " ", form.cmdAdd.Click, 1, ""},
+        {"cmdDelete", Qt::CTRL | Qt::Key_O, "\x0F", form.cmdOpen.Click, 1, ""},
+        {"chkDirected", Qt::Key_Space, " ", form.chkDirected.Click, 1, ""},
+        {"optSmall", Qt::Key_Space, " ", form.optSmall.Click, 1, ""},
+    };
+    for (const Row& row : rows) {
+        form.txtWind.SetText("10");
+        form.cmbType.SetText("Vulcanian/Surtseyan");
+        window.RunPendingEvents();
+        int times = 0;
+        row.event = [&times] { ++times; };
+        Find(row.widget)->setFocus();
+        const auto* const list = Find<QComboBox>(row.widget);
+        auto* const box = list ? list->lineEdit() : Find<QLineEdit>(row.widget);
+        if (box) box->selectAll();
+        Hold(Find(row.widget), row.key, row.text);
+        EXPECT_EQ(times, row.times) << "row " << &row - rows;
+        EXPECT_EQ(box ? box->text().toStdString() : "", row.shown) << "row " << &row - rows;
+    }
+}
+
+TEST_F(WindowTest, AControlThatBecomesDisabledHandsTheFocusToSomethingHarmless) {
+    struct Row {
+        const char* worked;
+        const char* focused;
+        std::vector<Control*> disabled;
+        const char* heir;
+    };
+    const Row rows[]{
+        {nullptr, "Command2", {&form.Command2}, "cmbPhase"},
+        {"txtWind", "Command2", {&form.Command2}, "txtWind"},
+        {nullptr, "cmdDelete", {&form.cmdDelete, &form.txtWind}, "cmbPhase"},
+        {"txtWind", "txtWind", {&form.txtWind}, "cmbPhase"},
+        {"txtWind", "cmbPhase", {&form.cmbPhase, &form.cmdAdd, &form.txtWind}, "cmdHelp"},
+    };
+    for (const Row& row : rows) {
+        for (Control* control : form.Controls()) {
+            control->SetEnabled(true);
+        }
+        window.RunPendingEvents();
+        if (row.worked != nullptr) {
+            keyClick(Find(row.worked), Qt::Key_5);
+        }
+        for (const char* passed : {"txtPart", row.focused}) {
+            Find(passed)->setFocus(Qt::TabFocusReason);
+        }
+        for (Control* control : row.disabled) {
+            control->SetEnabled(false);
+        }
+        window.RunPendingEvents();
+        EXPECT_EQ(QApplication::focusWidget()->objectName(), row.heir) << "row " << &row - rows;
+        EXPECT_EQ(form.ActiveControl()->Name(), row.heir);
+    }
+}
+
+TEST_F(WindowTest, ArrowKeysChooseAScaleInARing) {
+    Find("optNormal")->setFocus();
+    for (const auto& [key, chosen] :
+         std::initializer_list<std::pair<Qt::Key, const char*>>{{Qt::Key_Right, "optSmall"},
+                                                                {Qt::Key_Down, "optLarge"},
+                                                                {Qt::Key_Left, "optSmall"},
+                                                                {Qt::Key_Up, "optNormal"}}) {
+        keyClick(QApplication::focusWidget(), key);
+        EXPECT_EQ(QApplication::focusWidget()->objectName(), chosen);
+        for (const OptionButton* option : form.scaleOptions) {
+            EXPECT_EQ(option->Value(), option->Name() == chosen) << chosen;
+            EXPECT_EQ(Find<QAbstractButton>(option->Name().data())->isChecked(), option->Value());
+        }
+    }
+}
+
+TEST_F(WindowTest, DraggedTextIsAnEditWithoutAKeyAndADraggedFileIsNone) {
+    for (const bool file : {false, true}) {
+        for (QLineEdit* box :
+             {Find<QLineEdit>("txtWind"), Find<QComboBox>("cmbType")->lineEdit()}) {
+            box->setText("10");
+            form.Command2.SetEnabled(false);
+            QMimeData dragged;
+            dragged.setText("5");
+            if (file) dragged.setUrls({QUrl::fromLocalFile("/tmp/5")});
+            QDragEnterEvent enter({1, 5}, Qt::CopyAction, &dragged, Qt::LeftButton, {});
+            QDropEvent drop({1, 5}, Qt::CopyAction, &dragged, Qt::LeftButton, {});
+            QApplication::sendEvent(box, &enter);
+            QApplication::sendEvent(box, &drop);
+            EXPECT_EQ(enter.isAccepted(), !file);
+            EXPECT_EQ(box->text().contains('5'), !file) << box->text().toStdString();
+            EXPECT_FALSE(form.Command2.Enabled());
+        }
+    }
+}
