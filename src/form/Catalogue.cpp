@@ -25,7 +25,7 @@ constexpr std::array<CatalogueRow, 74> Rows{{
     {"labRecfile",  Kind::Label,         "Frame1",  "",                       1560,   360,  3255,   255,  34, Look::OutputField},
     {"labPhases",   Kind::Label,         "Frame1",  "",                       1560,  1080,  1695,   255,  35, Look::OutputField},
     {"cmdChange",   Kind::CommandButton, "Frame1",  "Stratigraphic File",     3360,  1080,  1455,   255,  38},
-    {"txtTopFile",  Kind::TextBox,       "Frame1",  "",                       1560,   720,  3255,   285,  44},
+    {"txtTopFile",  Kind::TextBox,       "Frame1",  "",                       1560,   720,  3255,   285,  44, Look::AnyText},
     {"cmdOpen",     Kind::CommandButton, "Frame1",  "",                        100,   280,   375,   375,  45, Look::OpenPicture},
     {"labScale",    Kind::Label,         "Frame1",  "Scale:",                  840,  1380,   615,   255,  47},
     {"optLarge",    Kind::OptionButton,  "Frame1",  "Large",                  1560,  1380,   735,   255,  48},

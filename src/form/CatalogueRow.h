@@ -21,6 +21,7 @@ enum class Look {
     LeftAligned,  // a label; labels are right-aligned otherwise
     OutputField,  // a label: centred in a border, pale cyan
     DisabledAtStart,
+    AnyText,      // a text box: not only for a number
     OpenPicture,  // a button: hidden until loading, an opening folder in place of a caption
     OwnPointer,   // the mouse has a pointer of its own over it
 };

@@ -16,6 +16,9 @@ constexpr QColor PaleYellow(255, 255, 192);
 
 TextBoxView::TextBoxView(const Subject& subject) : ViewOf(subject) {
     widget.setAlignment(Qt::AlignCenter);
+    if (Row().look != Look::AnyText) {
+        widget.TypeDecimals(subject.separators.decimal);
+    }
     connect(&widget, &LineBox::KeyPressed, this, [this] { OnUserAction([this] { TakeKey(); }); });
     connect(&widget, &LineBox::Edited, this, [this] { OnUserAction([this] { TakeEdit(); }); });
     connect(&widget, &LineBox::TextSet, this, [this] { OnTextSet([this] { TakeKey(); }); });

@@ -77,7 +77,7 @@ void FormWindow::MakeViews() {
         View* const frame = Find(row.frame);
         QWidget* const parent = frame != nullptr ? &frame->Widget() : this;
         Control& control = *form.Find(row.name);
-        if (auto view = NewView({control, row, parent, mirror})) {
+        if (auto view = NewView({control, row, parent, mirror, form.separators})) {
             mirror.Mark(*view);
             byControl.emplace(&control, view.get());
             views.push_back(std::move(view));

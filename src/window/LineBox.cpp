@@ -65,9 +65,18 @@ void LineBox::TellIfMoved() {
     }
 }
 
+QString LineBox::Delivered(const QString& typed) const {
+    const bool onKeyboards = decimalSign == nullptr || decimalSign->size() == 1;  // that is ASCII
+    return !onKeyboards && (typed == "." || typed == ",") ? ToScreen(*decimalSign) : typed;
+}
+
 void LineBox::keyPressEvent(QKeyEvent* event) {
-    inKeyPress = IsKeyPress(*event);
-    TextLine::keyPressEvent(event);
+    QKeyEvent delivered(event->type(), event->key(), event->modifiers(), event->nativeScanCode(),
+                        event->nativeVirtualKey(), event->nativeModifiers(),
+                        Delivered(event->text()), event->isAutoRepeat());
+    inKeyPress = IsKeyPress(delivered);
+    TextLine::keyPressEvent(&delivered);
+    event->setAccepted(delivered.isAccepted());
     if (std::exchange(inKeyPress, false)) {
         emit KeyPressed();
     }
@@ -75,6 +84,8 @@ void LineBox::keyPressEvent(QKeyEvent* event) {
 
 void LineBox::inputMethodEvent(QInputMethodEvent* event) {
     inKeyPress = !event->commitString().isEmpty();
+    event->setCommitString(Delivered(event->commitString()), event->replacementStart(),
+                           event->replacementLength());
     TextLine::inputMethodEvent(event);
     if (std::exchange(inKeyPress, false)) {
         emit KeyPressed();

@@ -1,6 +1,8 @@
 // A line of text that tells a key press from any other edit. It knows no control.
 #pragma once
 
+#include <string>
+
 #include "window/TextLine.h"
 
 class LineBox : public TextLine {
@@ -11,6 +13,10 @@ public:
 
     /// The smallest size at which the box shows the whole of such a text.
     QSize SizeFor(const QString& shown) const;
+
+    /// The box is one for numbers. Where their decimal sign is on no ordinary keyboard, a typed
+    /// period or comma arrives as that sign. The sign is UTF-8 and has to outlive the box.
+    void TypeDecimals(const std::string& sign) { decimalSign = &sign; }
 
 signals:
     /// A key was pressed that brings or takes a character at the insertion point, and the text is
@@ -35,7 +41,9 @@ private:
     void TellIfEdited();
     void AnnounceIfUndone();
     void TellIfMoved();
+    QString Delivered(const QString& typed) const;
 
+    const std::string* decimalSign = nullptr;  // none: no box for numbers
     bool inKeyPress = false;
     bool editedByUser = false;  // and the change has still to be reported
     bool canRedo = false;       // after the last change

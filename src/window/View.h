@@ -11,6 +11,7 @@
 #include <memory>
 #include <vector>
 
+#include "editing/Numbers.h"
 #include "form/CatalogueRow.h"
 #include "form/Controls.h"
 #include "window/Mirror.h"
@@ -21,6 +22,7 @@ struct Subject {
     const CatalogueRow& row;
     QWidget* parent;
     Mirror& mirror;
+    const Separators& separators;
 };
 
 class View : public QObject, public Mirrored {

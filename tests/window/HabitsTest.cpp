@@ -60,23 +60,6 @@ TEST_F(WindowTest, ColouredFieldsAreReadableInLightAndDark) {
     }
 }
 
-TEST_F(WindowTest, ARecordIsTheSameInEveryLocale) {
-    std::vector<std::string> saved;
-    for (const auto& [point, group] :
-         {Separators{".", ","}, Separators{",", "."}, Separators{"\u066B", "\u202F"}}) {
-        form.separators = {point, group};
-        platform.answers = {TEPHREX_DATA "/TephrexDemo.rec", folder / "saved.rec"};
-        Find<QAbstractButton>("cmdOpen")->click();
-        keyClick(&window, Qt::Key_PageDown, Qt::ControlModifier);
-        EXPECT_EQ(Find<QLineEdit>("txtLoc")->text().toStdString(), "12" + point + "25");
-        form.txtLoc.PressKey("1" + group + "2" + point + "75");
-        form.Command2.Press();
-        saved.push_back(ReadBytes(folder / "saved.rec"));
-        EXPECT_EQ(saved.back(), saved.front());
-    }
-    EXPECT_NE(saved[0].find("\n12.75,2,0.2,"), std::string::npos);
-}
-
 TEST_F(WindowTest, ANameGetsItsExtensionAndNoFileIsReplacedUnasked) {
     const std::string deep = folder / (std::string(150, 'a') + "/" + std::string(150, 'b') + "/");
     std::filesystem::create_directories(deep);

@@ -126,3 +126,45 @@ TEST_F(WindowTest, DraggedTextIsAnEditWithoutAKeyAndADraggedFileIsNone) {
         }
     }
 }
+
+TEST_F(WindowTest, ANumberTypedIsShownSavedAndReadBackInEveryLocale) {
+    struct Row {
+        const char* locale;
+        const char* typed;
+        const char* shown;
+    };
+    const Row rows[]{
+        {"C", "12.75", "12.75"},          {"de_DE", "12,75", "12,75"},
+        {"fr_FR", "12,75", "12,75"},      {"tr_TR", "12,75", "12,75"},
+        {"hi_IN", "12.75", "12.75"},      {"ja_JP", "12.75", "12.75"},
+        {"ar_EG", "12.75", "12\u066B75"}, {"ar_EG", "12,75", "12\u066B75"},
+        {"fa_IR", "12.75", "12\u066B75"}, {"ar_EG", "12\u066B75", "12\u066B75"},
+    };
+    std::string first;
+    for (const auto& [locale, typed, shown] : rows) {
+        form.separators = {QLocale(locale).decimalPoint().toStdString(),
+                           QLocale(locale).groupSeparator().toStdString()};
+        platform.answers = {TEPHREX_DATA "/TephrexDemo.rec", folder / "saved.rec",
+                            folder / "saved.rec"};
+        form.cmdOpen.Press();
+        window.RunPendingEvents();
+        auto* const box = Find<QLineEdit>("txtLoc");
+        box->setFocus();
+        box->selectAll();
+        for (const QChar sign : QString(typed)) {
+            QTest::sendKeyEvent(QTest::Click, box, Qt::Key_unknown, QString(sign), {});
+        }
+        EXPECT_EQ(box->text().toStdString(), shown) << locale;
+        form.Command2.Press();
+        const std::string saved = ReadBytes(folder / "saved.rec");
+        EXPECT_NE(saved.find("\n12.75,"), std::string::npos) << locale;
+        EXPECT_TRUE(std::exchange(first, saved) == saved || locale == rows->locale) << locale;
+        form.cmdOpen.Press();
+        window.RunPendingEvents();
+        EXPECT_EQ(box->text().toStdString(), shown) << locale;
+    }
+    auto* const path = Find<QLineEdit>("txtTopFile");
+    mouseClick(path, Qt::LeftButton);
+    keyClick(path, Qt::Key_Period);
+    EXPECT_EQ(path->text(), ".") << "no box for numbers";
+}
