@@ -24,12 +24,15 @@ full(programdir "${TEPHREX_PROGRAM_DIR}")
 
 set(filled "${TEPHREX_FILLED_IN}")
 configure_file("${TEPHREX_SOURCE}/data/desktop/Tephrex3.ini.in" "${filled}/Tephrex3.ini" @ONLY)
-configure_file("${TEPHREX_SOURCE}/data/desktop/tephrexedit.1.in" "${filled}/tephrexedit.1" @ONLY)
-compress("${filled}/tephrexedit.1" "${filled}/tephrexedit.1.gz")
 compress("${TEPHREX_SOURCE}/packaging/changelog" "${filled}/changelog.gz")
 
 file(INSTALL "${filled}/Tephrex3.ini" DESTINATION "${sysconfdir}/xdg")
-file(INSTALL "${filled}/tephrexedit.1.gz" DESTINATION "${mandir}/man1")
+foreach(program IN LISTS TEPHREX_PROGRAMS)
+  set(manual "${filled}/${program}.1")
+  configure_file("${TEPHREX_SOURCE}/data/desktop/${program}.1.in" "${manual}" @ONLY)
+  compress("${manual}" "${manual}.gz")
+  file(INSTALL "${manual}.gz" DESTINATION "${mandir}/man1")
+endforeach()
 file(INSTALL "${filled}/changelog.gz" DESTINATION "${datadir}/doc/tephrexedit")
 
 if(NOT sysconfdir STREQUAL "/etc")

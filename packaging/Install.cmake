@@ -5,13 +5,25 @@ if(NOT TARGET tephrexedit)
   return()
 endif()
 include(GNUInstallDirs)
+include(${CMAKE_CURRENT_LIST_DIR}/Version.cmake)
 include(${CMAKE_CURRENT_LIST_DIR}/Icons.cmake)
 include(${CMAKE_CURRENT_LIST_DIR}/Package.cmake)
 
-# The program and its help file stand in a folder of their own, whatever the platform calls the
+# install_program(PROGRAM FOLDER): a target and its manual, data/desktop/PROGRAM.1.in.
+function(install_program program folder)
+  install(TARGETS ${program} RUNTIME DESTINATION ${folder})
+  install(CODE "
+    if(CMAKE_INSTALL_DO_STRIP)  # which leaves the compiler's name where it is
+      execute_process(COMMAND \"${CMAKE_STRIP}\" --remove-section=.comment
+        \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${folder}/${program}\" COMMAND_ERROR_IS_FATAL ANY)
+    endif()")
+  set_property(GLOBAL APPEND PROPERTY TEPHREX_PROGRAMS ${program})
+endfunction()
+
+# The editor and its help file stand in a folder of their own, whatever the platform calls the
 # folder of its libraries; what people start is a link to it.
 set(TEPHREX_PROGRAM_DIR lib/tephrexedit)
-install(TARGETS tephrexedit RUNTIME DESTINATION ${TEPHREX_PROGRAM_DIR})
+install_program(tephrexedit ${TEPHREX_PROGRAM_DIR})
 install(FILES data/Tephrex3.hlp DESTINATION ${TEPHREX_PROGRAM_DIR})
 
 file(RELATIVE_PATH from_bin
@@ -31,7 +43,10 @@ install(FILES data/desktop/tephrexedit-mime.xml
 install(FILES packaging/copyright DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/tephrexedit)
 
 # These name folders of the installation, and so wait for the prefix that it is given.
+get_property(programs GLOBAL PROPERTY TEPHREX_PROGRAMS)
 install(CODE "
+  set(TEPHREX_DATE \"${TEPHREX_DATE}\")
+  set(TEPHREX_PROGRAMS \"${programs}\")
   set(PROJECT_VERSION \"${PROJECT_VERSION}\")
   set(TEPHREX_SOURCE \"${PROJECT_SOURCE_DIR}\")
   set(TEPHREX_FILLED_IN \"${PROJECT_BINARY_DIR}/installed\")

@@ -1,0 +1,12 @@
+# How programs that are shipped are built: hardened, and with no folder of the machine in them.
+# Fortifying works in optimised builds only.
+
+include(CheckPIESupported)
+check_pie_supported(LANGUAGES CXX)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+target_compile_options(tephrex_flags INTERFACE
+  "$<$<CONFIG:Release,RelWithDebInfo,MinSizeRel>:\
+-fstack-protector-strong;-fstack-clash-protection;-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=3>"
+  -ffile-prefix-map=${PROJECT_BINARY_DIR}=build -ffile-prefix-map=${PROJECT_SOURCE_DIR}=.)
+target_link_options(tephrex_flags INTERFACE -Wl,-z,relro -Wl,-z,now)
