@@ -24,6 +24,26 @@ private:
     const RecordEdit& form;
 };
 
+TEST_F(FormTest, EveryControlOfTheUserHasItsHandlers) {
+    for (const Control* control : form.Controls()) {
+        std::vector<const Event*> events;
+        if (const auto* box = dynamic_cast<const TextBox*>(control)) {
+            events = {&box->Change, &box->KeyPress, &box->GotFocus};
+        } else if (const auto* list = dynamic_cast<const ComboBox*>(control)) {
+            events = {&list->Click};
+        } else if (const auto* button = dynamic_cast<const CommandButton*>(control)) {
+            events = {&button->Click};
+        } else if (const auto* check = dynamic_cast<const CheckBox*>(control)) {
+            events = {&check->Click};
+        } else if (const auto* option = dynamic_cast<const OptionButton*>(control)) {
+            events = {&option->Click};
+        }
+        for (const Event* event : events) {
+            EXPECT_TRUE(*event) << control->Name();
+        }
+    }
+}
+
 TEST_F(FormTest, AStepOfTheStartThatFailsIsSkipped) {
     EXPECT_EQ(std::pair(platform.left, platform.top), std::pair(5700, 4000));
     const auto bare = std::make_unique<RecordEdit>();

@@ -151,6 +151,14 @@ public:
     }
 
 private:
+    static std::string VerbOf(MessageIcon icon) {
+        switch (icon) {
+            case MessageIcon::Information: return "tells";
+            case MessageIcon::Exclamation: return "warns";
+            case MessageIcon::Stop: return "stops";
+        }
+        return "shows an icon without a word";
+    }
     void HearDialogs() {
         for (; offered < platform.offered.size(); ++offered) {
             heard.push_back({"asks " + form.CD1.DialogTitle + ", offering " +
@@ -161,10 +169,8 @@ private:
     void HearMessage() {
         HearDialogs();
         const Message& message = platform.messages.back();
-        const char* const verbs[] = {"tells", "warns", "stops"};
-        heard.push_back({verbs[static_cast<int>(message.icon)] + std::string(" \"") +
-                         Snapshot::Shown(message.text, folder / "") + "\" over " +
-                         form.cmbPhase.Text()});
+        heard.push_back({VerbOf(message.icon) + " \"" + Snapshot::Shown(message.text, folder / "") +
+                         "\" over " + form.cmbPhase.Text()});
         EXPECT_EQ(message.title, "TephrexEdit");
     }
     Single Draw() {

@@ -36,6 +36,19 @@ constexpr std::array<FieldBox, 20> FieldBoxes{{
 }};
 // clang-format on
 
+// The other fields are flags and codes, which the option controls edit.
+static_assert(std::all_of(PhaseFields.begin(), PhaseFields.end(),
+                          [](const PhaseField& field) {
+                              const bool number =
+                                  field.range.kind != FieldRange::Any ||
+                                  std::holds_alternative<Single PhaseRecord::*>(field.member);
+                              return std::count_if(FieldBoxes.begin(), FieldBoxes.end(),
+                                                   [&field](const FieldBox& row) {
+                                                       return &row.field == &field;
+                                                   }) == (number ? 1 : 0);
+                          }),
+              "each number of a phase has one box");
+
 const FieldBox& BoxRow(BoxMember box) {
     return *std::find_if(FieldBoxes.begin(), FieldBoxes.end(),
                          [box](const FieldBox& row) { return row.box == box; });

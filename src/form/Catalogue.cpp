@@ -1,5 +1,6 @@
 #include "form/Catalogue.h"
 
+#include <algorithm>
 #include <array>
 
 namespace {
@@ -184,6 +185,41 @@ constexpr std::array<NamedText, 6> Descriptions{{
 }};
 
 // clang-format on
+
+constexpr const CatalogueRow* FindRow(std::string_view name) {
+    const auto* const found = std::find_if(
+        Rows.begin(), Rows.end(), [name](const CatalogueRow& row) { return row.name == name; });
+    return found == Rows.end() ? nullptr : found;
+}
+
+// A row per control: two of a name would make one of two controls.
+consteval bool NamesDiffer() {
+    return std::all_of(Rows.begin(), Rows.end(),
+                       [](const CatalogueRow& row) { return FindRow(row.name) == &row; });
+}
+static_assert(NamesDiffer(), "each control has one row");
+
+consteval bool AllExist(std::span<const NamedText> names) {
+    return std::all_of(names.begin(), names.end(),
+                       [](const NamedText& each) { return FindRow(each.control) != nullptr; });
+}
+static_assert(AllExist(Tips) && AllExist(Labels) && AllExist(Names), "a name of no control");
+static_assert(std::all_of(Labels.begin(), Labels.end(),
+                          [](const NamedText& row) {
+                              const CatalogueRow* const label = FindRow(row.text);
+                              return label != nullptr && label->kind == Kind::Label;
+                          }),
+              "a name of no label");
+
+consteval bool HasSpokenName(const CatalogueRow& row) {
+    const auto names = [&row](const NamedText& each) { return each.control == row.name; };
+    const bool edited = row.kind == Kind::TextBox || row.kind == Kind::ComboBox;
+    const bool captioned = !edited && (row.kind != Kind::CommandButton || !row.caption.empty());
+    return captioned || std::any_of(Labels.begin(), Labels.end(), names) ||
+           std::any_of(Names.begin(), Names.end(), names);
+}
+static_assert(std::all_of(Rows.begin(), Rows.end(), HasSpokenName),
+              "a control without a caption has a label or a spoken name");
 
 }  // namespace
 

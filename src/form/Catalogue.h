@@ -9,6 +9,8 @@
 #include "form/CatalogueRow.h"
 
 constexpr std::string_view FormCaption = "Edit Tephrex Record";
+constexpr std::string_view CloseCaption = "Close";  // of Command1 and Command2, once loaded
+constexpr std::string_view SaveCaption = "Save";
 constexpr int FormWidth = 7665;  // the area inside the window's border
 constexpr int FormHeight = 5970;
 

@@ -1,5 +1,6 @@
 #include "form/RecordEdit.h"
 
+#include <algorithm>
 #include <stdexcept>
 
 #include "form/Catalogue.h"
@@ -7,25 +8,48 @@
 
 namespace {
 
-void LayOut(RecordEdit& form, const CatalogueRow& row) {
-    Control* const control = form.Find(row.name);
-    if (control == nullptr) {
-        throw std::logic_error("The form lacks " + std::string(row.name));
+bool IsOfKind(const Control& control, Kind kind) {
+    switch (kind) {
+        case Kind::Frame: return dynamic_cast<const Frame*>(&control) != nullptr;
+        case Kind::Label: return dynamic_cast<const Label*>(&control) != nullptr;
+        case Kind::TextBox: return dynamic_cast<const TextBox*>(&control) != nullptr;
+        case Kind::ComboBox: return dynamic_cast<const ComboBox*>(&control) != nullptr;
+        case Kind::CheckBox: return dynamic_cast<const CheckBox*>(&control) != nullptr;
+        case Kind::OptionButton: return dynamic_cast<const OptionButton*>(&control) != nullptr;
+        case Kind::CommandButton: return dynamic_cast<const CommandButton*>(&control) != nullptr;
+        case Kind::CommonDialog: return dynamic_cast<const CommonDialog*>(&control) != nullptr;
     }
-    if (auto* const box = dynamic_cast<ComboBox*>(control)) {
+    return false;
+}
+
+void LayOut(Control& control, const CatalogueRow& row) {
+    if (auto* const box = dynamic_cast<ComboBox*>(&control)) {
         box->SetText(row.caption);
-    } else if (auto* const captioned = dynamic_cast<CaptionedControl*>(control)) {
+    } else if (auto* const captioned = dynamic_cast<CaptionedControl*>(&control)) {
         captioned->SetCaption(row.caption);
     }
-    control->SetEnabled(row.look != Look::DisabledAtStart);
-    control->SetVisible(row.look != Look::OpenPicture);
+    control.SetEnabled(row.look != Look::DisabledAtStart);
+    control.SetVisible(row.look != Look::OpenPicture);
+}
+
+// A control without a row, or a row without a control of its kind: the program is not built right.
+void Require(bool holds, std::string_view name) {
+    if (!holds) {
+        throw std::logic_error("The form and its catalogue differ in " + std::string(name));
+    }
 }
 
 }  // namespace
 
 RecordEdit::RecordEdit() {
+    for (const Control* control : Controls()) {
+        const auto names = [control](const auto& row) { return row.name == control->Name(); };
+        Require(std::ranges::any_of(Catalogue(), names), control->Name());
+    }
     for (const CatalogueRow& row : Catalogue()) {
-        LayOut(*this, row);
+        Control* const control = Find(row.name);
+        Require(control != nullptr && IsOfKind(*control, row.kind), row.name);
+        LayOut(*control, row);
     }
 }
 

@@ -39,7 +39,9 @@ public:
     void Add(Single item, std::string_view after) {
         const Single unsignedZero = item == 0 ? 0 : item;
         AddDigits(after, [unsignedZero](char* to, char* end) {
-            end = std::to_chars(to, end, unsignedZero, std::chars_format::general, 7).ptr;
+            end =
+                std::to_chars(to, end, unsignedZero, std::chars_format::general, SignificantDigits)
+                    .ptr;
             std::replace(to, end, 'e', 'E');
             return end;
         });

@@ -19,6 +19,9 @@
 #include "record/EditorState.h"
 #include "record/RecordItems.h"
 
+/// As many digits of a Single are written; more of them read as well.
+constexpr int SignificantDigits = 7;
+
 /// Where and why a read ended before its record did.
 struct ReadFailure {
     std::string reason;     // what was wrong, in words for the user

@@ -58,8 +58,8 @@ void Form_Load(RecordEdit& form) {
     });
     form.CD1.InitDir = form.DataPath;
     form.cmdOpen.SetVisible(true);
-    form.Command1.SetCaption("Close");
-    form.Command2.SetCaption("Save");
+    form.Command1.SetCaption(CloseCaption);
+    form.Command2.SetCaption(SaveCaption);
     form.labRecfile.SetCaption(NewRecordCaption);
     ShowCentred(form);
     FillFixedLists(form);

@@ -50,7 +50,7 @@ FormWindow::FormWindow(RecordEdit& ownForm) : form(ownForm) {
 
     DescribeWidgets();
     MakeViews();
-    scale = FittingScale(views);
+    scale = FittingScale(views, form);
     setFixedSize(Pixels(FormWidth), Pixels(FormHeight));
     PlaceViews();
     StackViews();

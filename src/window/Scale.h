@@ -2,18 +2,14 @@
 // stay whatever the font. Where the controls stand is told by the catalogue.
 #pragma once
 
-#include <QStringList>
-
 #include "window/View.h"
+
+struct RecordEdit;
 
 /// Logical pixels to the twip: 96 pixels to the inch, enlarged until the widgets cut off no
 /// caption, list entry or value in range in the font that they have. The widgets are left with
 /// other texts; their views have to be brought up to date.
-double FittingScale(const Views& views);
-
-/// The texts that a control shows at its start and later, or the widest of them. Paths, of any
-/// length, are not among them.
-QStringList TextsToFit(const CatalogueRow& row);
+double FittingScale(const Views& views, const RecordEdit& form);
 
 /// How much of a control's right end lies beneath its neighbours, in twips.
 int CoveredWidth(const CatalogueRow& row);

@@ -1,8 +1,7 @@
 #include "WindowTest.h"
 
-#include "form/Catalogue.h"
 #include "window/MessageDialogs.h"
-#include "window/Scale.h"
+#include "window/WidestTexts.h"
 
 TEST_F(WindowTest, OnlyKeysThatBringOrTakeACharacterCountAsPresses) {
     auto* const box = Find<QLineEdit>("txtWind");
@@ -205,10 +204,9 @@ TEST_F(WindowTest, NothingIsCutOffInAnyFont) {
             }
             EXPECT_TRUE(widget->size().boundedTo(wanted) == wanted) << name << points;
         };
-        for (const CatalogueRow& row : Catalogue()) {
-            for (const QString& text :
-                 row.kind == Kind::CommonDialog ? QStringList() : TextsToFit(row)) {
-                expectRoom(row.name, text);
+        for (const auto& [control, texts] : TextsToFit(form)) {
+            for (const QString& text : control == &form.CD1 ? QStringList() : texts) {
+                expectRoom(control->Name(), text);
             }
         }
         for (std::size_t type = form.cmbType.Entries().size(); type-- > 0;) {
