@@ -3,8 +3,11 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QStandardPaths>
+#include <algorithm>
 
 #include "form/Controls.h"
+#include "window/NamingDialog.h"
 #include "window/ScreenText.h"
 
 namespace {
@@ -13,83 +16,43 @@ QString PathOf(const std::string& bytes) {
     return QFile::decodeName(QByteArray::fromStdString(bytes));
 }
 
-// Adds the extension to a name without one; if a file is to be opened that has none, leaves it.
-class NamingDialog : public QFileDialog {
-public:
-    NamingDialog(QWidget& parent, const CommonDialog& dialog)
-        : QFileDialog(&parent), extension(ToScreen(dialog.DefaultExt)) {
-        // Some desktops' own dialogs look for a file to be replaced before they add the extension,
-        // and so replace one without asking.
-        setOption(DontUseNativeDialog);
-        setWindowTitle(ToScreen(dialog.DialogTitle));
-        const QStringList filters = NameFilters(dialog.Filter);
-        setNameFilters(filters);
-        selectNameFilter(filters.value(dialog.FilterIndex - 1));
-    }
-
-protected:
-    void accept() override {
-        setDefaultSuffix({});
-        if (acceptMode() == AcceptSave || !QFileInfo::exists(selectedFiles().value(0))) {
-            setDefaultSuffix(extension);
-        }
-        QFileDialog::accept();
-    }
-
-private:
-    QString extension;
-};
+// A relative one would lead to the folder from which the program happened to be started.
+bool IsFolder(const QString& path) { return path.startsWith('/') && QFileInfo(path).isDir(); }
 
 }  // namespace
 
 bool FileChooser::AskOpen(CommonDialog& dialog) {
-    NamingDialog asking(parent, dialog);
-    asking.setAcceptMode(QFileDialog::AcceptOpen);
-    const bool mustExist = (dialog.Flags & CommonDialog::MustExist) != 0;
-    asking.setFileMode(mustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    NamingDialog asking(parent, dialog, QFileDialog::AcceptOpen);
     return Ask(asking, dialog);
 }
 
 bool FileChooser::AskSave(CommonDialog& dialog) {
-    NamingDialog asking(parent, dialog);
-    asking.setAcceptMode(QFileDialog::AcceptSave);
-    asking.setFileMode(QFileDialog::AnyFile);
-    const bool askFirst = (dialog.Flags & CommonDialog::AskBeforeReplacing) != 0;
-    asking.setOption(QFileDialog::DontConfirmOverwrite, !askFirst);
+    NamingDialog asking(parent, dialog, QFileDialog::AcceptSave);
     return Ask(asking, dialog);
 }
 
-void FileChooser::Offer(QFileDialog& asking, const CommonDialog& dialog) const {
-    const QString folder = lastFolder.isEmpty() ? PathOf(dialog.InitDir) : lastFolder;
-    // Left to itself, the toolkit begins where any program of this user ended another day.
-    asking.setDirectory(!folder.isEmpty() && QFileInfo(folder).isDir() ? folder
-                                                                       : QDir::currentPath());
-    const QFileInfo offered(PathOf(dialog.FileName));
-    if (offered.isAbsolute() && offered.dir().exists()) {
-        asking.setDirectory(offered.dir());
-    }
-    if (!dialog.FileName.empty()) {
-        asking.selectFile(offered.fileName());
-    }
-}
-
-bool FileChooser::Ask(QFileDialog& asking, CommonDialog& dialog) {
-    Offer(asking, dialog);
+bool FileChooser::Ask(NamingDialog& asking, CommonDialog& dialog) {
+    const QString offered = PathOf(dialog.FileName);
+    const qsizetype nameStart = offered.lastIndexOf('/') + 1;
+    const QString folder = offered.left(nameStart);
+    const bool toWrite = asking.acceptMode() == QFileDialog::AcceptSave;
+    asking.Offer(IsFolder(folder) ? folder : StartFolder(PathOf(dialog.InitDir), toWrite),
+                 offered.mid(nameStart));
     if (asking.exec() != QDialog::Accepted) {
         return false;
     }
-    const QString chosen = asking.selectedFiles().value(0);
-    lastFolder = QFileInfo(chosen).absolutePath();
-    dialog.FileName = QFile::encodeName(chosen).toStdString();
+    lastFolder = QFileInfo(asking.Chosen()).path();
+    dialog.FileName = QFile::encodeName(asking.Chosen()).toStdString();
     return true;
 }
 
-QStringList NameFilters(std::string_view filter) {
-    const QStringList parts = ToScreen(filter).split('|');
-    QStringList filters;
-    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
-        const QString name = parts[i].section('(', 0, 0).trimmed();
-        filters += name + " (" + QString(parts[i + 1]).replace(';', ' ') + ')';
-    }
-    return filters;
+QString FileChooser::StartFolder(const QString& initial, bool toWrite) const {
+    QStringList folders{lastFolder, initial,
+                        QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation),
+                        QDir::homePath(), QDir::rootPath()};
+    folders.removeIf([](const QString& folder) { return !IsFolder(folder); });
+    const auto writable = std::find_if(folders.begin(), folders.end(), [](const QString& folder) {
+        return QFileInfo(folder).isWritable();
+    });
+    return toWrite && writable != folders.end() ? *writable : folders.value(0);
 }

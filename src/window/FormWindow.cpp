@@ -10,6 +10,7 @@
 
 #include "form/Catalogue.h"
 #include "window/Access.h"
+#include "window/PlainLabels.h"
 #include "window/Scale.h"
 #include "window/ScreenText.h"
 #include "window/Shortcuts.h"
@@ -49,6 +50,7 @@ FormWindow::FormWindow(RecordEdit& ownForm) : form(ownForm) {
     setWindowTitle(ToScreen(FormCaption));
 
     DescribeWidgets();
+    KeepLabelsPlain(*this);
     MakeViews();
     scale = FittingScale(views, form);
     setFixedSize(Pixels(FormWidth), Pixels(FormHeight));

@@ -18,8 +18,7 @@ QMessageBox::Icon IconOf(MessageIcon icon) {
 }  // namespace
 
 void MessageDialogs::Show(const std::string& text, MessageIcon icon, std::string_view title) {
-    const QString lines = ToScreen(text).replace(QLatin1String("\r\n"), QLatin1String("\n"));
+    const QString lines = ToScreen(text).replace(ToScreen("\r\n"), "\n");
     QMessageBox box(IconOf(icon), ToScreen(title), lines, QMessageBox::Ok, &parent);
-    box.setTextFormat(Qt::PlainText);
     box.exec();
 }

@@ -1,5 +1,6 @@
 #include "window/ScreenText.h"
 
+#include <QTextBoundaryFinder>
 #include <QUtf8StringView>
 #include <algorithm>
 #include <array>
@@ -24,20 +25,78 @@ QChar FromWindows1252(char byte) {
     return code >= 0x80 && code <= 0x9F ? QChar(Windows1252[code - 0x80U]) : QChar(code);
 }
 
-}  // namespace
-
-QString ToScreen(std::string_view bytes) {
+QString Decoded(std::string_view bytes) {
     if (IsUtf8(bytes)) {
         return QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size()));
     }
-    QString shown;
+    QString text;
     for (const char byte : bytes) {
-        shown += FromWindows1252(byte);
+        text += FromWindows1252(byte);
+    }
+    return text;
+}
+
+// Line ends of Unicode, and the marks that embed, override or isolate a direction of writing. Those
+// between words of two scripts are ordinary parts of names and are left alone.
+bool BreaksOrTurnsLine(char16_t code) {
+    return (code >= 0x2028 && code <= 0x202E) || (code >= 0x2066 && code <= 0x2069);
+}
+
+bool NeedsStandIn(QChar character) {
+    return character.category() == QChar::Other_Control || BreaksOrTurnsLine(character.unicode());
+}
+
+// The second half of a surrogate pair without its first: fonts show it as a replacement character.
+// Its lower bits keep the character; those from U+2000 on are the ones that are no control there.
+constexpr char16_t LoneHalf = 0xDC00;
+constexpr char16_t Kept = 0x3FF;
+
+char16_t Original(char16_t standIn) {
+    const auto code = static_cast<char16_t>(standIn & Kept);
+    return NeedsStandIn(code) ? code : static_cast<char16_t>(0x2000 | code);
+}
+
+}  // namespace
+
+QString WithStandIns(QString text) {
+    for (QChar& character : text) {
+        if (NeedsStandIn(character)) {
+            character = QChar(LoneHalf | (character.unicode() & Kept));
+        }
+    }
+    return text;
+}
+
+QString WithoutStandIns(QString shown) {
+    bool paired = false;
+    for (QChar& character : shown) {
+        if (!paired && character.isLowSurrogate()) {
+            character = QChar(Original(character.unicode()));
+        }
+        paired = character.isHighSurrogate();
     }
     return shown;
 }
 
-std::string FromScreen(const QString& shown) { return shown.toStdString(); }
+QString NameInMessage(const QString& name) {
+    constexpr qsizetype line = 60;
+    constexpr QChar mayBreak(0x200B);
+    const QString shown = WithStandIns(name);
+    QTextBoundaryFinder letters(QTextBoundaryFinder::Grapheme, shown);
+    QString broken;
+    qsizetype from = 0;
+    while (shown.size() - from > line) {
+        letters.setPosition(from + line);
+        const qsizetype to = letters.isAtBoundary() ? from + line : letters.toNextBoundary();
+        broken += shown.mid(from, to - from) + mayBreak;
+        from = to;
+    }
+    return broken + shown.mid(from);
+}
+
+QString ToScreen(std::string_view bytes) { return WithStandIns(Decoded(bytes)); }
+
+std::string FromScreen(const QString& shown) { return WithoutStandIns(shown).toStdString(); }
 
 int ScreenPlace(std::string_view bytes, std::size_t place) {
     const std::string_view front = bytes.substr(0, place);

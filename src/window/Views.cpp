@@ -34,7 +34,6 @@ public:
 class LabelView : public ViewOf<Label, QLabel> {
 public:
     explicit LabelView(const Subject& subject) : ViewOf(subject) {
-        widget.setTextFormat(Qt::PlainText);
         const bool left = Row().look == Look::LeftAligned;
         widget.setAlignment(Qt::AlignVCenter | (left ? Qt::AlignLeft : Qt::AlignRight));
         if (IsOutputField()) {

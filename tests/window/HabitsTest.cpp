@@ -1,5 +1,4 @@
 #include "WindowTest.h"
-#include "window/FileChooser.h"
 
 TEST_F(WindowTest, KeysOfTheFormDoWhatIsEnabledAndPressNoKeyInABox) {
     Open({GoodPhase(EruptionType::Strombolian), GoodPhase(EruptionType::Plinian)});
@@ -57,48 +56,5 @@ TEST_F(WindowTest, ColouredFieldsAreReadableInLightAndDark) {
             if (field->focusPolicy() != Qt::NoFocus)
                 expect(QPalette::HighlightedText, QPalette::Highlight);
         }
-    }
-}
-
-TEST_F(WindowTest, ANameGetsItsExtensionAndNoFileIsReplacedUnasked) {
-    const std::string deep = folder / (std::string(150, 'a') + "/" + std::string(150, 'b') + "/");
-    std::filesystem::create_directories(deep);
-    WriteBytes(folder / "there.rec", "");
-    WriteBytes(folder / "bare", "");
-    FileChooser chooser(window);
-    form.CD1.InitDir = folder / "";
-    form.CD1.DefaultExt = "rec";
-    struct Row {
-        std::string offered, typed, chosen;
-        bool opens = false;
-    };
-    const Row rows[]{
-        {"", "there", folder / "there.rec"},
-        {"", "bare", folder / "bare", true},
-        {"", "there", folder / "there.rec", true},
-        {"", folder / "a.txt", folder / "a.txt"},
-        {deep + "a name é.rec", "", deep + "a name é.rec"},
-        {"", "next", deep + "next.rec"},  // where the user last was
-    };
-    for (const auto& [offered, typed, chosen, opens] : rows) {
-        bool asked = false;
-        QTimer::singleShot(0, &window, [&, name = typed] {
-            auto* const box = QApplication::activeModalWidget()->findChild<QLineEdit*>();
-            EXPECT_TRUE(QTest::qWaitForWindowActive(box->window()));
-            box->setFocus();  // without it the file that was offered stays the chosen one
-            if (!name.empty()) box->setText(QString::fromStdString(name));
-            QTimer::singleShot(0, &window, [&] {
-                if (auto* const question = window.findChild<QMessageBox*>()) {
-                    asked = true;
-                    question->button(QMessageBox::Yes)->click();
-                }
-            });
-            keyClick(box, Qt::Key_Return);
-        });
-        form.CD1.FileName = offered;
-        form.CD1.Flags = opens ? CommonDialog::MustExist : CommonDialog::AskBeforeReplacing;
-        EXPECT_TRUE(opens ? chooser.AskOpen(form.CD1) : chooser.AskSave(form.CD1));
-        EXPECT_EQ(form.CD1.FileName, chosen);
-        EXPECT_EQ(asked, typed == "there" && !opens) << typed;
     }
 }

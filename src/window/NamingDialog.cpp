@@ -1,0 +1,268 @@
+#include "window/NamingDialog.h"
+
+#include <unistd.h>
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QCompleter>
+#include <QDir>
+#include <QEvent>
+#include <QFile>
+#include <QFileInfo>
+#include <QFileSystemModel>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QListView>
+#include <QMessageBox>
+#include <QMimeDatabase>
+#include <QPushButton>
+#include <QScreen>
+#include <QStyledItemDelegate>
+#include <QTreeView>
+#include <algorithm>
+
+#include "form/Controls.h"
+#include "window/ScreenText.h"
+
+namespace {
+
+// The toolkit's filters for "Records (*.rec)|*.rec;*.REC|": here "Records (*.rec *.REC)".
+QStringList NameFilters(std::string_view filter) {
+    const QStringList parts = ToScreen(filter).split('|');
+    QStringList filters;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        const QString name = parts[i].section('(', 0, 0).trimmed();
+        filters += name + " (" + QString(parts[i + 1]).replace(';', ' ') + ')';
+    }
+    return filters;
+}
+
+// Shows a name in one line, also while it is edited.
+class NameDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QString displayText(const QVariant& value, const QLocale& locale) const override {
+        return value.typeId() == QMetaType::QString
+                   ? WithStandIns(value.toString())
+                   : QStyledItemDelegate::displayText(value, locale);
+    }
+
+    void setEditorData(QWidget* editor, const QModelIndex& index) const override {
+        if (auto* const line = qobject_cast<QLineEdit*>(editor)) {
+            line->setText(WithStandIns(index.data(Qt::EditRole).toString()));
+        }
+    }
+
+    void setModelData(QWidget* editor, QAbstractItemModel* model,
+                      const QModelIndex& index) const override {
+        if (const auto* const line = qobject_cast<QLineEdit*>(editor)) {
+            model->setData(index, WithoutStandIns(line->text()));
+        }
+    }
+};
+
+// Keeps the names of folders in such a model of the toolkit's, which does not read them back, and
+// their tips in one line.
+void KeepWhole(QAbstractItemModel& folders) {
+    const auto keep = [&folders](const QModelIndex& index, int role) {
+        const QString text = index.data(role).toString();
+        if (const QString shown = WithStandIns(text); shown != text) {
+            folders.setData(index, shown, role);
+        }
+    };
+    QObject::connect(&folders, &QAbstractItemModel::dataChanged, &folders,
+                     [keep](const QModelIndex& first, const QModelIndex& last) {
+                         for (int row = first.row(); row <= last.row(); ++row) {
+                             keep(first.siblingAtRow(row), Qt::DisplayRole);
+                             keep(first.siblingAtRow(row), Qt::ToolTipRole);
+                         }
+                     });
+}
+
+// The toolkit makes its widgets when it learns that the desktop's own dialog is not wanted: some of
+// those look for a file to be replaced before they add the extension, and replace one unasked.
+QLineEdit& NameBox(QFileDialog& dialog) {
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    return *dialog.findChild<QLineEdit*>("fileNameEdit");
+}
+
+// Without dots, repeated slashes and links on the way that a name would be compared by in vain.
+QString Tidied(const QString& path) {
+    const qsizetype nameStart = path.lastIndexOf('/') + 1;
+    const QString folder = path.left(nameStart);
+    const QString clean = QDir::cleanPath(folder);
+    const QString real = QFileInfo(folder).canonicalFilePath();
+    const bool same = real.isEmpty() || QFileInfo(clean).canonicalFilePath() == real;
+    const QString best = same ? clean : real;
+    return (best.endsWith('/') ? best : best + '/') + path.mid(nameStart);
+}
+
+// An ending that begins with a figure is rather a part of the name, as in "eruption v1.2".
+bool IsExtension(const QString& ending) {
+    return !ending.isEmpty() && ending.front().isLetter() &&
+           !QMimeDatabase().suffixForFileName("name." + ending).isEmpty();
+}
+
+bool Fits(const QString& path) {
+    const QFileInfo file(path);
+    const long longest = pathconf(QFile::encodeName(file.path()).constData(), _PC_NAME_MAX);
+    return longest < 0 || QFile::encodeName(file.fileName()).size() <= longest;
+}
+
+}  // namespace
+
+NamingDialog::NamingDialog(QWidget& parent, const CommonDialog& dialog, AcceptMode mode)
+    : QFileDialog(&parent),
+      box(NameBox(*this)),
+      extension(ToScreen(dialog.DefaultExt)),
+      flags(dialog.Flags) {
+    setWindowTitle(ToScreen(dialog.DialogTitle));
+    const QStringList filters = NameFilters(dialog.Filter);
+    setNameFilters(filters);
+    selectNameFilter(filters.value(dialog.FilterIndex - 1));
+    setAcceptMode(mode);
+    setFileMode(AnyFile);  // whether the file must exist is looked at when it is taken
+    // The toolkit's own size leaves hardly any room for the names.
+    const QSize roomy(140 * fontMetrics().averageCharWidth(), 30 * fontMetrics().height());
+    resize(roomy.boundedTo(screen()->availableSize()));
+    ShowNamesWhole();
+    FollowSelection();
+    for (auto* const button : findChildren<QPushButton*>()) {
+        button->installEventFilter(this);
+    }
+}
+
+void NamingDialog::ShowNamesWhole() {
+    QList<QAbstractItemView*> views{box.completer()->popup(), findChild<QListView*>("listView")};
+    views += findChild<QTreeView*>();
+    for (QAbstractItemView* const view : views) {
+        view->setItemDelegate(new NameDelegate(view));
+    }
+    KeepWhole(*findChild<QComboBox*>("lookInCombo")->model());
+    KeepWhole(*findChild<QListView*>("sidebar")->model());
+    connect(&box, &QLineEdit::textChanged, this, [this](const QString& text) {
+        if (const QString shown = WithStandIns(text); shown != text) {
+            const int place = box.cursorPosition();
+            box.setText(shown);
+            box.setCursorPosition(place);
+        }
+    });
+    connect(findChild<QFileSystemModel*>(), &QFileSystemModel::directoryLoaded, this,
+            &NamingDialog::FitColumns, Qt::QueuedConnection);
+    findChild<QTreeView*>()->viewport()->installEventFilter(this);
+}
+
+void NamingDialog::FollowSelection() {
+    connect(&box, &QLineEdit::textEdited, this, [this] { selecting = false; });
+    connect(this, &QFileDialog::currentChanged, this, [this] { selecting = true; });
+    for (const auto* const view : findChildren<QAbstractItemView*>()) {
+        connect(view, &QAbstractItemView::pressed, this, [this] { selecting = true; });
+    }
+}
+
+// All columns but that of the names take what they need, and the names the rest.
+void NamingDialog::FitColumns() {
+    auto& tree = *findChild<QTreeView*>();
+    int rest = tree.viewport()->width();
+    for (int column = 1; column < tree.model()->columnCount(); ++column) {
+        tree.resizeColumnToContents(column);
+        rest -= tree.columnWidth(column);
+    }
+    tree.setColumnWidth(0, std::max(rest, tree.viewport()->width() / 3));
+}
+
+void NamingDialog::Offer(const QString& folder, const QString& name) {
+    setDirectory(folder);
+    offeredIn = directory().path();
+    offered = name;
+    offeredPath = (folder.endsWith('/') ? folder : folder + '/') + name;
+    box.setText(name);
+    box.selectAll();
+}
+
+void NamingDialog::accept() {
+    const QString name = WithoutStandIns(box.text());
+    if (Enters(SelectedFolder()) || name.isEmpty()) {
+        return;
+    }
+    const bool unchanged = name == offered && directory().path() == offeredIn;
+    const QString path = unchanged ? offeredPath : PathOfName(name);
+    if (Enters(path)) {
+        return;
+    }
+    const bool asItIs = (unchanged || acceptMode() == AcceptOpen) && QFileInfo::exists(path);
+    const QString file = asItIs ? path : WithExtension(path);
+    if (!Enters(file) && MayTake(file)) {
+        chosen = file;
+        done(Accepted);
+    }
+}
+
+// The toolkit's own reading of the name box can find nothing to open or save in it.
+bool NamingDialog::eventFilter(QObject* watched, QEvent* event) {
+    auto* const button = qobject_cast<QPushButton*>(watched);
+    if (button != nullptr && event->type() == QEvent::EnabledChange && !box.text().isEmpty()) {
+        button->setEnabled(true);
+    } else if (button == nullptr && event->type() == QEvent::Resize) {
+        FitColumns();
+    }
+    return QFileDialog::eventFilter(watched, event);
+}
+
+QString NamingDialog::PathOfName(const QString& name) const {
+    if (name.startsWith('/')) {
+        return Tidied(name);
+    }
+    const QString here = directory().isAbsolute() ? directory().path() + '/' : QDir::rootPath();
+    const bool fromHome = name == "~" || name.startsWith("~/");
+    return Tidied(fromHome && !QFileInfo::exists(here + '~') ? QDir::homePath() + name.mid(1)
+                                                             : here + name);
+}
+
+// A name that has one, or would become too long with it, stays as it is.
+QString NamingDialog::WithExtension(const QString& path) const {
+    const QString name = path.mid(path.lastIndexOf('/') + 1);
+    const QString ending = name.contains('.') ? name.section('.', -1).trimmed() : QString();
+    const bool hasOne = ending.compare(extension, Qt::CaseInsensitive) == 0 || IsExtension(ending);
+    const QString extended = path + '.' + extension;
+    return hasOne || !Fits(extended) ? path : extended;
+}
+
+// The folder that the user has just selected in the list, to enter it by the button.
+QString NamingDialog::SelectedFolder() const {
+    if (!selecting || box.hasFocus()) {
+        return {};
+    }
+    const auto rows = findChild<QTreeView*>()->selectionModel()->selectedRows();
+    return rows.isEmpty() ? QString()
+                          : rows.front().data(QFileSystemModel::FilePathRole).toString();
+}
+
+bool NamingDialog::Enters(const QString& path) {
+    if (path.isEmpty() || !QFileInfo(path).isDir()) {
+        return false;
+    }
+    setDirectory(path);
+    box.setText(acceptMode() == AcceptSave ? offered : QString());
+    return true;
+}
+
+bool NamingDialog::MayTake(const QString& path) {
+    const QString name = NameInMessage(path.mid(path.lastIndexOf('/') + 1));
+    if (name.isEmpty() || path.contains(QChar::Null) || !Fits(path)) {
+        QMessageBox::warning(this, windowTitle(), tr("%1\nNo file can have this name.").arg(name));
+        return false;
+    }
+    const bool exists = QFileInfo::exists(path);
+    if ((flags & CommonDialog::MustExist) != 0 && !exists) {
+        QMessageBox::warning(
+            this, windowTitle(),
+            tr("%1\nFile not found.\nPlease verify the correct file name was given.").arg(name));
+        return false;
+    }
+    return (flags & CommonDialog::AskBeforeReplacing) == 0 || !exists ||
+           QMessageBox::warning(
+               this, windowTitle(), tr("%1 already exists.\nDo you want to replace it?").arg(name),
+               QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
+}

@@ -1,0 +1,170 @@
+#include <unistd.h>
+
+#include "WindowTest.h"
+#include "window/FileChooser.h"
+#include "window/ScreenText.h"
+
+class FilesTest : public WindowTest {
+protected:
+    FileChooser chooser{window};
+    std::string question;  // that the last dialog asked or refused with
+
+    /// What a dialog chooses that comes up with a name, gets another one typed or pasted over it if
+    /// there is one, and Enter; a question is answered with Yes. Nothing, if it refuses.
+    std::string Choose(bool opens, const std::string& offered, const std::string& typed = {}) {
+        question.clear();
+        QTimer::singleShot(0, &window, [&] {
+            auto* const dialog = QApplication::activeModalWidget();
+            auto* const box = dialog->findChild<QLineEdit*>();
+            EXPECT_TRUE(QTest::qWaitForWindowActive(dialog));
+            box->setFocus();
+            if (!typed.empty()) box->setText(QString::fromStdString(typed));
+            QTimer::singleShot(0, &window, [&] { AnswerQuestion(); });
+            keyClick(box, Qt::Key_Return);
+            dialog->close();
+        });
+        form.CD1.FileName = offered;
+        form.CD1.Flags = opens ? CommonDialog::MustExist : CommonDialog::AskBeforeReplacing;
+        const bool chosen = opens ? chooser.AskOpen(form.CD1) : chooser.AskSave(form.CD1);
+        return chosen ? form.CD1.FileName : "";
+    }
+
+private:
+    void AnswerQuestion() {
+        if (auto* const box = window.findChild<QMessageBox*>()) {
+            const auto* const label = box->findChild<QLabel*>("qt_msgbox_label");
+            EXPECT_EQ(label->textFormat(), Qt::PlainText);
+            question = label->text().remove(QChar(0x200B)).toStdString();
+            const auto yes = box->standardButtons().testFlag(QMessageBox::Yes);
+            box->button(yes ? QMessageBox::Yes : QMessageBox::Ok)->click();
+        }
+    }
+};
+
+TEST_F(FilesTest, AnyNameIsShownInOneLineAndChosenToTheByte) {
+    form.CD1.InitDir = folder / "";
+    form.CD1.DefaultExt = "rec";
+    std::filesystem::create_directories(folder / "b.rec");
+    for (const std::string& name : std::vector<std::string>{
+             "a\"b.rec", "\"a\" \"b.rec\".rec", "two\nlines.rec", " blanks .rec ", "a|b%1*?.rec",
+             "~root.rec", "~.rec", "\\back\\slash.rec", "-rf.rec", "$HOME.rec", ":colon.rec",
+             "<img src=evil.png>.rec", "c\r\t\x1b\x7f\u0085\u2028\u202E\u240A\U0001F30B.rec",
+             "&amp;.rec", "#?a=b.rec", std::string(251, 'n') + ".rec", std::string(255, 'n')}) {
+        const std::string path = folder / name;
+        EXPECT_EQ(Choose(false, path), path);
+        EXPECT_EQ(question, "");
+        EXPECT_EQ(Choose(true, "", name), "") << "is not there yet";
+        WriteBytes(path, "");
+        EXPECT_EQ(Choose(true, path), path);
+        EXPECT_EQ(Choose(true, "", name), path);
+        EXPECT_EQ(Choose(false, path), path);
+        const QString shown = ToScreen(name);
+        EXPECT_EQ(question, shown.toStdString() + " already exists.\nDo you want to replace it?");
+        EXPECT_TRUE(std::none_of(shown.begin(), shown.end(), [](QChar c) {
+            return c.category() == QChar::Other_Control || c == QChar::LineSeparator;
+        })) << name;
+        EXPECT_EQ(FromScreen(shown), name);
+    }
+}
+
+TEST_F(FilesTest, ANameGetsItsExtensionAndNoFileIsReplacedUnasked) {
+    const std::string deep = folder / (std::string(150, 'a') + "/" + std::string(150, 'b') + "/");
+    std::filesystem::create_directories(deep);
+    WriteBytes(folder / "there.rec", "");
+    WriteBytes(folder / "bare", "");
+    form.CD1.InitDir = folder / "";
+    form.CD1.DefaultExt = "rec";
+    struct Row {
+        std::string offered, typed, chosen;
+        bool opens = false;
+    };
+    const Row rows[]{
+        {"", "there", folder / "there.rec"},
+        {"", "bare", folder / "bare", true},
+        {"", "there", folder / "there.rec", true},
+        {folder / "bare", "", folder / "bare"},  // its own name
+        {"", "bare", folder / "bare.rec"},
+        {"", "eruption v1.2", folder / "eruption v1.2.rec"},
+        {"", "a.REC", folder / "a.REC"},
+        {"", "a.unheard-of", folder / "a.unheard-of.rec"},
+        {"", "./b/../a.txt", folder / "a.txt"},
+        {"", std::string(256, 'n'), ""},  // refused
+        {deep + "a name é.rec", "", deep + "a name é.rec"},
+        {"", "next", deep + "next.rec"},  // where the user last was
+    };
+    for (const auto& [offered, typed, chosen, opens] : rows) {
+        EXPECT_EQ(Choose(opens, offered, typed), chosen) << typed;
+        const bool asks = chosen.empty() || (!opens && std::filesystem::exists(chosen));
+        EXPECT_EQ(!question.empty(), asks) << typed;
+    }
+}
+
+TEST_F(FilesTest, AReferenceKeepsItsControlCharactersWhileItIsEdited) {
+    auto* const box = Find<QLineEdit>("txtTopFile");
+    const std::string reference = "/two\nlines\u2028\u240A\U0001F30B\u0085.str";
+    form.txtTopFile.SetText(reference);
+    form.labRecfile.SetCaption(reference);
+    window.RunPendingEvents();
+    box->setFocus();
+    const QString shown = box->text();
+    EXPECT_EQ(shown, Find<QLabel>("labRecfile")->text());
+    EXPECT_FALSE(shown.contains('\n') || shown.contains(QChar::LineSeparator)) << "cuts it off";
+    for (const auto key : {Qt::Key_End, Qt::Key_X}) keyClick(box, key);
+    EXPECT_EQ(form.txtTopFile.Text(), reference + "x");
+    box->setCursorPosition(5);
+    for (const auto key : {Qt::Key_Backspace, Qt::Key_Backspace}) keyClick(box, key);
+    EXPECT_EQ(form.txtTopFile.Text(), "/twlines\u2028\u240A\U0001F30B\u0085.strx");
+    for (const auto key : {Qt::Key_Z, Qt::Key_A, Qt::Key_X, Qt::Key_A, Qt::Key_V}) {
+        keyClick(box, key, Qt::ControlModifier);
+    }
+    EXPECT_EQ(form.txtTopFile.Text(), reference + "x");
+    EXPECT_EQ(box->text(), shown + "x");
+}
+
+// Runs as a user to whom a folder can be closed.
+class NoRoot {
+public:
+    NoRoot() { EXPECT_EQ(was == 0 ? setresuid(65534, 65534, 0) : 0, 0); }
+    ~NoRoot() { EXPECT_EQ(setresuid(was, was, was), 0); }
+
+private:
+    const uid_t was = geteuid();
+};
+
+TEST_F(FilesTest, ADialogComesUpInTheFirstFolderThatServes) {
+    namespace fs = std::filesystem;
+    const std::string closed = folder / "closed", home = folder / "home";
+    const std::string documents = home + "/Documents";
+    for (const std::string& made : {closed, home, documents}) fs::create_directories(made);
+    for (const auto& [path, mode] : {std::pair{folder / "", 0777}, {closed, 0555}, {home, 0777}}) {
+        fs::permissions(path, fs::perms(mode));
+    }
+    fs::permissions(documents, fs::perms(0777));
+    const auto restored = qScopeGuard([old = qgetenv("HOME")] { qputenv("HOME", old); });
+    qputenv("HOME", QByteArray::fromStdString(home));
+    struct Row {
+        std::string offered, initial, start;
+        bool opens = false;
+    };
+    const Row rows[]{
+        {closed + "/a.rec", folder / "", closed},
+        {"a.rec", closed, closed, true},
+        {"a.rec", closed, documents},
+        {folder / "gone/a.rec", closed + "/", documents},
+        {"tests/a.rec", "tests", documents},  // never from the working directory
+        {"", folder / "gone", documents, true},
+    };
+    const NoRoot user;
+    for (const auto& [offered, initial, start, opens] : rows) {
+        form.CD1.InitDir = initial;
+        form.CD1.FileName = offered;
+        QString shown;
+        QTimer::singleShot(0, &window, [&shown] {
+            auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            shown = dialog->directory().path();
+            dialog->reject();
+        });
+        EXPECT_FALSE(opens ? chooser.AskOpen(form.CD1) : chooser.AskSave(form.CD1));
+        EXPECT_EQ(shown.toStdString(), start) << offered << ", " << initial;
+    }
+}
