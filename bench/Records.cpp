@@ -88,6 +88,7 @@ void QuietPlatform::Load(RecordEdit& form, Window& window) {
     form.services.messages = this;
     form.services.dialogs = this;
     form.services.help = this;
+    form.services.device = this;
     form.services.window = &window;
     Wire(form);
     Form_Load(form);

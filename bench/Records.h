@@ -28,7 +28,11 @@ private:
 };
 
 /// A platform without a screen; its open dialog gives the name `answer`.
-class QuietPlatform : public MessageBoxes, public FileDialogs, public HelpViewer, public Window {
+class QuietPlatform : public MessageBoxes,
+                      public FileDialogs,
+                      public HelpViewer,
+                      public Device,
+                      public Window {
 public:
     std::string answer;
 
@@ -39,6 +43,7 @@ public:
     bool AskOpen(CommonDialog& dialog) override;
     bool AskSave(CommonDialog&) override { return false; }
     void ShowHelp(const CommonDialog&) override {}
+    bool Flush(const std::string&) override { return true; }
     Extent ScreenSize() override { return {}; }
     Extent FormSize() override { return {}; }
     void Move(int, int) override {}

@@ -8,6 +8,7 @@
 #include "form/Wiring.h"
 #include "shell/Startup.h"
 #include "window/FileChooser.h"
+#include "window/FileDevice.h"
 #include "window/FormWindow.h"
 #include "window/HelpWindow.h"
 #include "window/IniSettings.h"
@@ -25,10 +26,12 @@ int main(int argc, char** argv) {
     MessageDialogs messages(window);
     FileChooser dialogs(window);
     HelpWindow help;
+    FileDevice device;
     form->services = {
         .messages = &messages,
         .dialogs = &dialogs,
         .help = &help,
+        .device = &device,
         .window = &window,
         .createPathHelper = [] { return std::make_unique<PlainPaths>(); },
         .createSettingsStore = [] { return std::make_unique<IniSettings>(); },

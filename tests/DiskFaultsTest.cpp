@@ -105,6 +105,17 @@ TEST_F(DiskFaultsTest, AFullDiskKeepsWhatItTookAndTheNextSaveIsWhole) {
     EXPECT_EQ(platform.messages.size(), whole.size() + 1);
 }
 
+TEST_F(DiskFaultsTest, ASaveIsDoneWhenTheWholeFileIsOnItsDevice) {
+    for (const bool reaches : {false, true}) {
+        platform.flush = [&](const std::string& path) {
+            EXPECT_EQ(ReadBytes(path), whole);
+            return reaches;
+        };
+        EXPECT_EQ(Saves(copy), reaches);
+        EXPECT_EQ(platform.messages.size(), 1U) << "Recorder file save error";
+    }
+}
+
 TEST_F(DiskFaultsTest, WhatIsNoReadableFileIsLeftAtOnce) {
     ASSERT_EQ(chmod((folder / "").c_str(), 0777), 0);
     ASSERT_TRUE(geteuid() != 0 || seteuid(65534) == 0);  // permissions do not bind root

@@ -27,7 +27,11 @@ struct Message {
     friend bool operator==(const Message&, const Message&) = default;
 };
 
-class TestPlatform : public MessageBoxes, public FileDialogs, public HelpViewer, public Window {
+class TestPlatform : public MessageBoxes,
+                     public FileDialogs,
+                     public HelpViewer,
+                     public Device,
+                     public Window {
 public:
     explicit TestPlatform(Form& theForm) : form(theForm) {}
 
@@ -36,6 +40,7 @@ public:
     std::deque<std::optional<std::string>> answers;  // to dialogs: a name, or nothing to cancel
     std::vector<std::string> offered;                // the name that each dialog came up with
     std::vector<int> helpCommands;
+    std::function<bool(const std::string& path)> flush = [](const std::string&) { return true; };
     std::string dataPath;
     Extent screen{19200, 14400};
     Extent size{7800, 6400};
@@ -53,6 +58,7 @@ public:
     void ShowHelp(const CommonDialog& dialog) override {
         helpCommands.push_back(dialog.HelpCommand);
     }
+    bool Flush(const std::string& path) override { return flush(path); }
     Extent ScreenSize() override { return screen; }
     Extent FormSize() override { return size; }
     void Move(int newLeft, int newTop) override { left = newLeft, top = newTop; }
@@ -143,6 +149,7 @@ protected:
     /// Brings the form up as the program does.
     void Load() {
         form.services = {&platform,
+                         &platform,
                          &platform,
                          &platform,
                          &platform,

@@ -47,7 +47,7 @@ void SaveRec(RecordEdit& form) {
     }
     form.RecFile = form.CD1.FileName;
     form.labRecfile.SetCaption(form.ShownPath(form.RecFile));
-    if (!WriteRecordFile(form.RecFile, form)) {
+    if (!WriteRecordFile(form.RecFile, form) || !form.services.device->Flush(form.RecFile)) {
         form.ShowMessage("Recorder file save error", MessageIcon::Exclamation);
         return;
     }

@@ -52,6 +52,15 @@ public:
     virtual std::string DisplayPath(const std::string& path, int flag) = 0;
 };
 
+/// Brings what was written under a name from the system's memory to the device.
+class Device {
+public:
+    virtual ~Device() = default;
+    /// Waits until the bytes of the file and its entry in its folder are on the device. False if
+    /// that fails. A target that cannot be flushed at all, such as a terminal, counts as flushed.
+    virtual bool Flush(const std::string& path) = 0;
+};
+
 /// Sizes and places in twips, 1440 to the inch at the form's own scale.
 struct Extent {
     int width = 0;
@@ -76,6 +85,7 @@ struct Services {
     MessageBoxes* messages = nullptr;
     FileDialogs* dialogs = nullptr;
     HelpViewer* help = nullptr;
+    Device* device = nullptr;
     Window* window = nullptr;
     std::function<std::unique_ptr<PathHelper>()> createPathHelper;
     std::function<std::unique_ptr<SettingsStore>()> createSettingsStore;

@@ -1,6 +1,7 @@
 #include <QApplication>
 
 #include "../TestForm.h"
+#include "window/FileDevice.h"
 #include "window/HelpWindow.h"
 #include "window/IniSettings.h"
 
@@ -37,4 +38,16 @@ TEST(HelpWindowTest, ShowsTheTopicOrTellsThatThereIsNone) {
     viewer.ShowHelp(dialog);
     EXPECT_FALSE(shown->isMinimized());
     EXPECT_EQ(shown->document(), document) << "at the place that the reader has reached";
+}
+
+TEST(FileDeviceTest, AFileIsFlushedAndWhatKnowsNoFlushCountsAsFlushed) {
+    const TempFolder folder;
+    WriteBytes(folder / "a.rec", "");
+    std::filesystem::create_symlink("a.rec", folder / "link.rec");
+    std::filesystem::create_symlink("/dev/full", folder / "full.rec");
+    const std::pair<const char*, bool> rows[] = {
+        {"a.rec", true}, {"link.rec", true}, {"full.rec", true}, {"no.rec", false}, {"", false}};
+    for (const auto& [name, flushed] : rows) {
+        EXPECT_EQ(FileDevice().Flush(folder / name), flushed) << name;
+    }
 }
