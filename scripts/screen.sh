@@ -59,7 +59,7 @@ await_gone() {
 }
 
 # painted: a window with updates turned off comes up all the same, in one colour.
-painted() { [ "$(import -window "$form" -format %k info:)" -gt 40 ]; }
+painted() { [ "$(import -window "$form" -format %k info:-)" -gt 40 ]; }
 
 # start_editor PROGRAM [DATA_FOLDER]: without a data folder with no settings of its own.
 start_editor() {
