@@ -1,33 +1,17 @@
 #include "display/Limits.h"
 
 #include <algorithm>
-#include <cmath>
 #include <initializer_list>
 #include <iterator>
 #include <limits>
 #include <stdexcept>
 #include <utility>
 
-#include "rules/FlowDurations.h"
+#include "display/LimitTests.h"
 
 namespace {
 
-constexpr double MapStart = 50;
-constexpr double MapEnd = 1230;
-
-double MapPosition(Single location, double factor) {
-    return factor * static_cast<double>(location);
-}
-
-// What the checks look at, and the flow that one of them has found.
-struct Judged {
-    const PhaseRecord& phase;
-    const FlowRow& flows;
-    double factor;  // from a location to its place on the map
-    int firstFlow;  // of those to look at
-    int lastFlow;
-    std::optional<BadFlow> badFlow = std::nullopt;
-};
+using namespace LimitTests;
 
 // The eruption types that a check is made for, as one bit each; the first is for codes that are no
 // type, which get the checks for all types and no others.
@@ -53,114 +37,12 @@ constexpr Types Collapse = Of({EruptionType::Collapse});
 constexpr Types Fumarolic = Of({EruptionType::Fumarolic});
 constexpr Types Located = ~(Tectonic | Collapse);
 
-// A row's test: when a phase fails it, which field is at fault, what would pass, and what the field
-// becomes if it is corrected.
-struct Test {
-    bool (*fails)(Judged& judged);
-    const PhaseField* field;
-    Limits (*passing)(const Judged& judged);
-    std::optional<Single> (*correction)(const Judged& judged) = nullptr;
-};
-
-Limits Anything(const Judged& /*judged*/) { return {}; }
-
-template <int Numerator, int Denominator>
-constexpr Single Ratio = static_cast<Single>(Numerator) / Denominator;
-
-template <auto Field, int Numerator, int Denominator = 1>
-constexpr Test Below{[](Judged& j) { return j.phase.*Field < Ratio<Numerator, Denominator>; },
-                     &FieldOf(Field),
-                     [](const Judged&) {
-                         return Limits{Ratio<Numerator, Denominator>, {}};
-                     }};
-
-template <auto Field, int Limit>
-constexpr Test Above{[](Judged& j) { return j.phase.*Field > Ratio<Limit, 1>; }, &FieldOf(Field),
-                     [](const Judged&) {
-                         return Limits{{}, Ratio<Limit, 1>};
-                     }};
-
-bool BeforeMap(double position) { return position < MapStart; }
-bool BehindMap(double position) { return position > MapEnd; }
-
-// The last location at one end of the map. The Single next to the quotient can lie on either side;
-// with a negative scale the map runs from right to left.
-Single LastOnMap(double end, bool (*off)(double), double factor) {
-    const bool upwards = (end == MapStart) == (factor > 0);
-    const Single far = std::numeric_limits<Single>::max() * (upwards ? 1.0F : -1.0F);
-    auto last = static_cast<Single>(end / factor);
-    while (off(MapPosition(last, factor))) {
-        last = std::nextafter(last, far);
-    }
-    return last;
-}
-
-Limits OnMap(const Judged& j) {
-    const Single start = LastOnMap(MapStart, BeforeMap, j.factor);
-    const Single end = LastOnMap(MapEnd, BehindMap, j.factor);
-    return {std::min(start, end), std::max(start, end)};
-}
-
-constexpr const PhaseField& Vent = FieldOf(&PhaseRecord::ventLocation);
-constexpr Test LocationTooSmall{
-    [](Judged& j) { return BeforeMap(MapPosition(j.phase.ventLocation, j.factor)); }, &Vent, OnMap};
-constexpr Test LocationTooLarge{
-    [](Judged& j) { return BehindMap(MapPosition(j.phase.ventLocation, j.factor)); }, &Vent, OnMap};
-
-// A scarp off the map is put on the end of the map that it left.
-template <auto Scarp>
-constexpr Test OffMap{[](Judged& j) {
-                          const double position = MapPosition(j.phase.*Scarp, j.factor);
-                          return BeforeMap(position) || BehindMap(position);
-                      },
-                      &FieldOf(Scarp), OnMap,
-                      [](const Judged& j) -> std::optional<Single> {
-                          Single scarp = j.phase.*Scarp;
-                          if (BeforeMap(MapPosition(scarp, j.factor))) {
-                              scarp = static_cast<Single>(MapStart / j.factor);
-                          }
-                          if (BehindMap(MapPosition(scarp, j.factor))) {
-                              scarp = static_cast<Single>(MapEnd / j.factor);
-                          }
-                          return scarp;
-                      }};
-
-constexpr Test ScarpsEqual{[](Judged& j) { return j.phase.scarpTop == j.phase.scarpBase; },
-                           &FieldOf(&PhaseRecord::scarpBase), Anything};
-
-constexpr Test NoDownSide{[](Judged& j) {
-                              return j.phase.tectonicKind == TectonicKind::Faulting &&
-                                     j.phase.faultDip == 0 &&
-                                     j.phase.faultDownSide != DownSide::Left &&
-                                     j.phase.faultDownSide != DownSide::Right;
-                          },
-                          &FieldOf(&PhaseRecord::faultDownSide), Anything};
-
-constexpr Test NoCalderaStyle{
-    [](Judged& j) { return j.phase.calderaFlag == 1 && j.phase.calderaStyle == 0; },
-    &FieldOf(&PhaseRecord::calderaStyle), Anything};
-
-// Looks for the first flow that is too short or too long; its row and the next tell which.
-constexpr Test FlowTooShort{[](Judged& j) {
-                                j.badFlow = FirstBadFlow(j.phase, j.flows, j.firstFlow, j.lastFlow);
-                                return j.badFlow && j.badFlow->tooShort;
-                            },
-                            nullptr,
-                            [](const Judged& j) {
-                                return Limits{ShortestFlow(j.phase.eruptionType), {}};
-                            }};
-constexpr Test FlowTooLong{
-    [](Judged& j) { return j.badFlow.has_value(); }, nullptr,
-    [](const Judged& j) {
-        return Limits{{}, static_cast<Single>(LongestFlow(j.phase, j.badFlow->flow))};
-    }};
-
 // Whether the first fault is that of this row, or one of a later row that fails too.
 enum class Then { Stop, GoOn };
 
 struct Check {
     Types types;
-    Test test;
+    const Test& test;
     std::string_view message;
     Then then = Then::Stop;
 

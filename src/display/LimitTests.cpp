@@ -1,0 +1,87 @@
+#include "display/LimitTests.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace LimitTests {
+
+namespace {
+
+constexpr double MapStart = 50;
+constexpr double MapEnd = 1230;
+
+double MapPosition(Single location, double factor) {
+    return factor * static_cast<double>(location);
+}
+
+// The last location at one end of the map. The Single next to the quotient can lie on either side;
+// with a negative scale the map runs from right to left.
+Single LastOnMap(double end, bool (*isOff)(Single, double), double factor) {
+    const bool upwards = (end == MapStart) == (factor > 0);
+    const Single far = std::numeric_limits<Single>::max() * (upwards ? 1.0F : -1.0F);
+    auto last = static_cast<Single>(end / factor);
+    while (isOff(last, factor)) {
+        last = std::nextafter(last, far);
+    }
+    return last;
+}
+
+Limits Anything(const Judged& /*judged*/) { return {}; }
+
+using P = PhaseRecord;
+
+bool IsVentBeforeMap(Judged& j) { return IsBeforeMap(j.phase.ventLocation, j.factor); }
+bool IsVentAfterMap(Judged& j) { return IsAfterMap(j.phase.ventLocation, j.factor); }
+bool AreScarpsEqual(Judged& j) { return j.phase.scarpTop == j.phase.scarpBase; }
+bool LacksStyle(Judged& j) { return j.phase.calderaFlag == 1 && j.phase.calderaStyle == 0; }
+
+bool LacksSide(Judged& j) {
+    return j.phase.tectonicKind == TectonicKind::Faulting && j.phase.faultDip == 0 &&
+           j.phase.faultDownSide != DownSide::Left && j.phase.faultDownSide != DownSide::Right;
+}
+
+bool HasShortFlow(Judged& j) {
+    j.badFlow = FirstBadFlow(j.phase, j.flows, j.firstFlow, j.lastFlow);
+    return j.badFlow && j.badFlow->tooShort;
+}
+bool HasLongFlow(Judged& j) { return j.badFlow.has_value(); }
+
+Limits LongEnough(const Judged& j) { return {ShortestFlow(j.phase.eruptionType), {}}; }
+Limits ShortEnough(const Judged& j) {
+    return {{}, static_cast<Single>(LongestFlow(j.phase, j.badFlow->flow))};
+}
+
+}  // namespace
+
+bool IsBeforeMap(Single location, double factor) {
+    return MapPosition(location, factor) < MapStart;
+}
+
+bool IsAfterMap(Single location, double factor) { return MapPosition(location, factor) > MapEnd; }
+
+Limits OnMap(const Judged& judged) {
+    const Single start = LastOnMap(MapStart, IsBeforeMap, judged.factor);
+    const Single end = LastOnMap(MapEnd, IsAfterMap, judged.factor);
+    return {std::min(start, end), std::max(start, end)};
+}
+
+Single PutOnMap(Single location, double factor) {
+    if (IsBeforeMap(location, factor)) {
+        location = static_cast<Single>(MapStart / factor);
+    }
+    if (IsAfterMap(location, factor)) {
+        location = static_cast<Single>(MapEnd / factor);
+    }
+    return location;
+}
+
+constexpr Test LocationTooSmall{IsVentBeforeMap, &FieldOf(&P::ventLocation), OnMap};
+constexpr Test LocationTooLarge{IsVentAfterMap, &FieldOf(&P::ventLocation), OnMap};
+constexpr Test ScarpsEqual{AreScarpsEqual, &FieldOf(&P::scarpBase), Anything};
+constexpr Test NoDownSide{LacksSide, &FieldOf(&P::faultDownSide), Anything};
+constexpr Test NoCalderaStyle{LacksStyle, &FieldOf(&P::calderaStyle), Anything};
+constexpr Test FlowTooShort{HasShortFlow, nullptr, LongEnough};
+constexpr Test FlowTooLong{HasLongFlow, nullptr, ShortEnough};
+
+}  // namespace LimitTests

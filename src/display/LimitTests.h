@@ -1,0 +1,78 @@
+// How a phase can break a limit, one test for each way: when it fails, which field is at fault,
+// what would pass, and what the field becomes if it is corrected. Which type must keep which limit,
+// and in which order they are tested, is in Limits.
+#pragma once
+
+#include <optional>
+
+#include "display/Limits.h"
+#include "rules/FlowDurations.h"
+
+namespace LimitTests {
+
+// What the tests look at, and the flow that one of them has found.
+struct Judged {
+    const PhaseRecord& phase;
+    const FlowRow& flows;
+    double factor;  // from a location to its place on the map
+    int firstFlow;  // of those to look at
+    int lastFlow;
+    std::optional<BadFlow> badFlow = std::nullopt;
+};
+
+struct Test {
+    bool (*fails)(Judged& judged);
+    const PhaseField* field;  // null: the duration of a flow
+    Limits (*passing)(const Judged& judged);
+    std::optional<Single> (*correction)(const Judged& judged) = nullptr;
+};
+
+template <auto Field, int Numerator, int Denominator>
+struct Floor {
+    static constexpr Single Lowest = static_cast<Single>(Numerator) / Denominator;
+    static bool Fails(Judged& judged) { return judged.phase.*Field < Lowest; }
+    static Limits Passing(const Judged& /*judged*/) { return {Lowest, {}}; }
+};
+template <auto Field, int Numerator, int Denominator = 1>
+constexpr Test Below{Floor<Field, Numerator, Denominator>::Fails, &FieldOf(Field),
+                     Floor<Field, Numerator, Denominator>::Passing};
+
+template <auto Field, int Limit>
+struct Ceiling {
+    static constexpr Single Highest = static_cast<Single>(Limit);
+    static bool Fails(Judged& judged) { return judged.phase.*Field > Highest; }
+    static Limits Passing(const Judged& /*judged*/) { return {{}, Highest}; }
+};
+template <auto Field, int Limit>
+constexpr Test Above{Ceiling<Field, Limit>::Fails, &FieldOf(Field), Ceiling<Field, Limit>::Passing};
+
+// The map: 50 to 1230, both ends included.
+bool IsBeforeMap(Single location, double factor);
+bool IsAfterMap(Single location, double factor);
+Limits OnMap(const Judged& judged);
+/// The location on the end of the map that this one has left, or itself.
+Single PutOnMap(Single location, double factor);
+
+template <auto Scarp>
+struct Map {
+    static bool Fails(Judged& judged) {
+        const Single scarp = judged.phase.*Scarp;
+        return IsBeforeMap(scarp, judged.factor) || IsAfterMap(scarp, judged.factor);
+    }
+    static std::optional<Single> Correction(const Judged& judged) {
+        return PutOnMap(judged.phase.*Scarp, judged.factor);
+    }
+};
+template <auto Scarp>
+constexpr Test OffMap{Map<Scarp>::Fails, &FieldOf(Scarp), OnMap, Map<Scarp>::Correction};
+
+extern const Test LocationTooSmall;
+extern const Test LocationTooLarge;
+extern const Test ScarpsEqual;
+extern const Test NoDownSide;
+extern const Test NoCalderaStyle;
+// The first looks for a flow out of its limits, and the two say on which side: they go together.
+extern const Test FlowTooShort;
+extern const Test FlowTooLong;
+
+}  // namespace LimitTests
