@@ -201,12 +201,11 @@ Limits WidestLimits(const PhaseField& field, Integer recordScale) {
     Limits widest;
     for (const Check& check : Checks) {
         if (check.test.field == &field) {
-            const Limits limits = check.test.passing(judged);
-            if (limits.lowest)
-                widest.lowest = std::min(widest.lowest.value_or(*limits.lowest), *limits.lowest);
-            if (limits.highest)
-                widest.highest =
-                    std::max(widest.highest.value_or(*limits.highest), *limits.highest);
+            const auto [lowest, highest] = check.test.passing(judged);
+            widest.lowest =
+                lowest ? std::min(*lowest, widest.lowest.value_or(*lowest)) : widest.lowest;
+            widest.highest =
+                highest ? std::max(*highest, widest.highest.value_or(*highest)) : widest.highest;
         }
     }
     return widest;
