@@ -1,10 +1,12 @@
 #include "window/IniSettings.h"
 
 #include <QIODevice>
+#include <QSettings>
+#include <QStandardPaths>
 
 namespace {
 
-// The toolkit's own INI format takes backslashes, commas and quotes in a value for signs of its
+// The toolkit's own INI format gives backslashes, commas and quotes in a value a meaning of its
 // own, and would spoil a path.
 bool ReadLines(QIODevice& file, QSettings::SettingsMap& values) {
     QString group;
@@ -32,11 +34,18 @@ QSettings::Format RawIni() {
 
 }  // namespace
 
-IniSettings::IniSettings() : settings(RawIni(), QSettings::UserScope, "Tephrex3") {}
-
 std::string IniSettings::Read(const std::string& section, const std::string& key,
                               const std::string& fallback) {
     const QString group = QString::fromStdString(section).section('\\', -1);
-    const QVariant value = settings.value(group + '/' + QString::fromStdString(key));
-    return value.isValid() ? value.toByteArray().toStdString() : fallback;
+    // Regular files only: to open a pipe would wait for somebody who writes to it.
+    const QStringList files =
+        QStandardPaths::locateAll(QStandardPaths::GenericConfigLocation, "Tephrex3.ini");
+    for (const QString& file : files) {
+        const QSettings settings(file, RawIni());
+        const QVariant value = settings.value(group + '/' + QString::fromStdString(key));
+        if (value.isValid()) {
+            return value.toByteArray().toStdString();
+        }
+    }
+    return fallback;
 }

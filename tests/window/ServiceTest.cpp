@@ -1,3 +1,5 @@
+#include <sys/stat.h>
+
 #include <QApplication>
 
 #include "../TestForm.h"
@@ -14,10 +16,13 @@ TEST(IniSettingsTest, AValueArrivesByteForByte) {
     };
     EXPECT_EQ(read("DataPath"), "/system");
     const std::string odd = "/d a, \"t\"\\x41;#=\xE9\xC3\xA9 ";
-    WriteBytes(qgetenv("XDG_CONFIG_HOME").toStdString() + "/Tephrex3.ini",
-               "DataPath=/top\n[Else]\nDataPath=/else\n; c=d\n[Settings]\nDataPath=" + odd);
+    const std::string own = qgetenv("XDG_CONFIG_HOME").toStdString() + "/Tephrex3.ini";
+    WriteBytes(own, "DataPath=/top\n[Else]\nDataPath=/else\n; c=d\n[Settings]\nDataPath=" + odd);
     EXPECT_EQ(read("DataPath"), odd);
     EXPECT_EQ(read("Other") + read("Missing"), "1none");
+    std::filesystem::remove(own);
+    mkfifo(own.c_str(), 0600);
+    EXPECT_EQ(read("DataPath"), "/system") << "and no wait for the pipe";
 }
 
 TEST(HelpWindowTest, ShowsTheTopicOrTellsThatThereIsNone) {
