@@ -25,7 +25,7 @@ int main(int argc, char** argv) {
     FormWindow window(*form);
     MessageDialogs messages(window);
     FileChooser dialogs(window);
-    HelpWindow help;
+    HelpWindow help(window);
     FileDevice device;
     form->services = {
         .messages = &messages,

@@ -89,3 +89,16 @@ for news in (pyatspi.ROLE_TEXT, "Burst Frequency"), \
         (pyatspi.ROLE_ALERT, "TephrexEdit"):
     soon(True, lambda: news in heard)
 subprocess.run(["xdotool", "key", "Return"], check=True)
+
+# The help is a document in a window of its own; what is found in it is on the caret's line.
+subprocess.run(["xdotool", "key", "F1"], check=True)
+app = pyatspi.Registry.getDesktop(0)[0]
+soon([(pyatspi.ROLE_FRAME, "Edit Tephrex Record"), (pyatspi.ROLE_FRAME, "TephrexEdit Help")],
+     lambda: sorted((each.getRole(), each.name) for each in app))
+page = pyatspi.findDescendant(app, lambda each: each.getRole() == pyatspi.ROLE_DOCUMENT_FRAME)
+soon(True, lambda: page.getState().contains(pyatspi.STATE_FOCUSED))
+subprocess.run(["xdotool", "key", "--delay", "50", *"ctrl+f k m Return Escape".split()],
+               check=True)
+soon(True, lambda: "km" in page.queryText().getTextAtOffset(
+    page.queryText().caretOffset, pyatspi.TEXT_BOUNDARY_LINE_START)[0])
+subprocess.run(["xdotool", "key", "ctrl+w"], check=True)

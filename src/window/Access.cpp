@@ -6,7 +6,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QTextEdit>
 
+#include "window/DocumentAccess.h"
 #include "window/ListBox.h"
 
 namespace {
@@ -113,7 +115,10 @@ QAccessibleInterface* NewAccess(const QString& kind, QObject* object) {
     if (kind == "QRadioButton") {
         return new OptionAccess(*qobject_cast<QAbstractButton*>(object));
     }
-    if (kind == "FormWindow") {
+    if (kind == "QTextEdit") {
+        return new DocumentAccess(*qobject_cast<QTextEdit*>(object));
+    }
+    if (kind == "FormWindow" || kind == "HelpFrame") {
         return new QAccessibleWidget(qobject_cast<QWidget*>(object), QAccessible::Window);
     }
     return nullptr;

@@ -1,74 +1,43 @@
 #include "window/HelpWindow.h"
 
 #include <QFile>
-#include <QRegularExpression>
-#include <QShortcut>
-#include <QTextTable>
-#include <utility>
+#include <QScreen>
 
 #include "form/Controls.h"
+#include "window/HelpText.h"
 
 namespace {
-
-std::unique_ptr<QTextBrowser> NewViewer() {
-    auto viewer = std::make_unique<QTextBrowser>();
-    viewer->setObjectName("HelpViewer");
-    viewer->setWindowTitle("TephrexEdit Help");
-    viewer->setAttribute(Qt::WA_QuitOnClose, false);  // the program ends with the form
-    viewer->setOpenLinks(false);
-    viewer->resize(640, 700);
-    QObject::connect(new QShortcut(Qt::Key_Escape, viewer.get()), &QShortcut::activated,
-                     viewer.get(), &QWidget::close);
-    return viewer;
-}
 
 QString FileName(const CommonDialog& dialog) {
     return QFile::decodeName(QByteArray::fromStdString(dialog.HelpFile)).replace('\\', '/');
 }
 
-// The toolkit sets the tables of Markdown too tight to be read with ease.
-void SpaceTables(QTextDocument& document) {
-    for (QTextFrame* frame : document.rootFrame()->childFrames()) {
-        if (auto* const table = qobject_cast<QTextTable*>(frame)) {
-            QTextTableFormat format = table->format();
-            format.setBorderCollapse(true);
-            format.setCellPadding(4);
-            format.setBottomMargin(12);
-            table->setFormat(format);
-        }
-    }
-}
-
-// Fills an empty document with the topic, or with a sentence that tells why there is none.
-void Fill(QTextDocument& document, const CommonDialog& dialog) {
-    QFile file(FileName(dialog));
-    if (!file.open(QIODevice::ReadOnly)) {
-        document.setPlainText("The help file cannot be read: " + file.fileName());
-        return;
-    }
-    const int number = dialog.HelpContext;
-    const QString topic = FindTopic(QString::fromUtf8(file.readAll()), number);
-    if (topic.isNull()) {
-        document.setPlainText(QString("The help file has no topic %1: ").arg(number) +
-                              file.fileName());
-        return;
-    }
-    document.setMarkdown(topic, QTextDocument::MarkdownDialectGitHub);
-    SpaceTables(document);
+// As near to the point as there is room.
+QRect PlaceIn(const QRect& room, QPoint point, QSize wanted) {
+    QRect place(QPoint(), wanted.boundedTo(room.size()));
+    place.moveCenter(point);
+    place.moveLeft(qBound(room.left(), place.left(), room.right() - place.width() + 1));
+    place.moveTop(qBound(room.top(), place.top(), room.bottom() - place.height() + 1));
+    return place;
 }
 
 }  // namespace
 
-QString FindTopic(const QString& markdown, int number) {
-    static const QRegularExpression mark("^# +", QRegularExpression::MultilineOption);
-    static const QRegularExpression blank("\\s");
-    const QStringList topics = markdown.split(mark).mid(1);  // what stands ahead is no topic
-    for (const QString& topic : topics) {
-        if (topic.section(blank, 0, 0) == QString::number(number)) {
-            return "# " + topic.section(blank, 1);
+QRect PlaceBeside(const QRect& form, const QRect& screen, QSize wanted, QSize least) {
+    QRect right = screen;
+    QRect left = screen;
+    QRect below = screen;
+    QRect above = screen;
+    right.setLeft(form.right() + 1);
+    left.setRight(form.left() - 1);
+    below.setTop(form.bottom() + 1);
+    above.setBottom(form.top() - 1);
+    for (const QRect& room : {right, left, below, above}) {
+        if (room.size().expandedTo(least) == room.size()) {
+            return PlaceIn(room, form.center(), wanted);
         }
     }
-    return {};
+    return PlaceIn(screen, {screen.right(), form.center().y()}, wanted);
 }
 
 void HelpWindow::ShowHelp(const CommonDialog& dialog) {
@@ -81,21 +50,34 @@ void HelpWindow::ShowHelp(const CommonDialog& dialog) {
 
 void HelpWindow::ShowTopic(const CommonDialog& dialog) {
     if (viewer == nullptr) {
-        viewer = NewViewer();
+        viewer = std::make_unique<HelpFrame>();
+        viewer->resize(viewer->sizeHint());
     }
     // A reader who asks for the topic again is left at the place that was reached.
     const bool again = viewer->isVisible() && topic == dialog.HelpContext;
     topic = dialog.HelpContext;
     if (!again) {
-        // A document that is not on show yet is filled much faster.
-        auto next = std::make_unique<QTextDocument>();
-        next->setDocumentMargin(12);
-        Fill(*next, dialog);
-        viewer->setDocument(next.get());
-        document = std::move(next);
+        viewer->ShowDocument(HelpDocument(FileName(dialog), topic));
+        Place();
     }
     viewer->setWindowState(viewer->windowState() & ~Qt::WindowMinimized);
     viewer->show();
     viewer->raise();
     viewer->activateWindow();
+}
+
+// The title bar is taken to be as large as the form's. A place that the user has chosen stays
+// unless the form is there now.
+void HelpWindow::Place() {
+    const QRect taken = form.window()->frameGeometry();
+    const QRect inside = form.window()->geometry();
+    const QMargins bars(inside.left() - taken.left(), inside.top() - taken.top(),
+                        taken.right() - inside.right(), taken.bottom() - inside.bottom());
+    if (viewer->testAttribute(Qt::WA_Moved) && !viewer->frameGeometry().intersects(taken)) {
+        return;
+    }
+    const QRect place =
+        PlaceBeside(taken, form.screen()->availableGeometry(), viewer->size().grownBy(bars),
+                    viewer->LeastSize().grownBy(bars));
+    viewer->setGeometry(place.marginsRemoved(bars));
 }

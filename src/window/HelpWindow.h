@@ -1,25 +1,28 @@
-// The help viewer: a window of its own that shows one topic of the help file.
+// The help viewer: opens the window of the help beside the form, and closes it.
 #pragma once
 
-#include <QTextBrowser>
-#include <QTextDocument>
 #include <memory>
 
 #include "shell/Services.h"
+#include "window/HelpFrame.h"
 
-/// The text of a topic out of a Markdown file in which a heading of the first level begins with
-/// the topic's number; without that number. Null if the file has no such topic.
-QString FindTopic(const QString& markdown, int number);
+/// Where a window of the wanted size is beside the form and over no part of it, within the screen:
+/// smaller if need be, but not below the least size. If there is no room, at the screen's right.
+QRect PlaceBeside(const QRect& form, const QRect& screen, QSize wanted, QSize least);
 
 class HelpWindow : public HelpViewer {
 public:
+    /// Opens beside this window, which has to outlive it.
+    explicit HelpWindow(const QWidget& ownForm) : form(ownForm) {}
+
     /// Shows the topic in front of the other windows, or closes the viewer if one was opened.
     void ShowHelp(const CommonDialog& dialog) override;
 
 private:
     void ShowTopic(const CommonDialog& dialog);
+    void Place();
 
-    std::unique_ptr<QTextDocument> document;  // on show in the viewer, which goes first
-    std::unique_ptr<QTextBrowser> viewer;
+    const QWidget& form;
+    std::unique_ptr<HelpFrame> viewer;
     int topic = 0;  // the last one shown
 };

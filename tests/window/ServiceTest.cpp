@@ -4,7 +4,6 @@
 
 #include "../TestForm.h"
 #include "window/FileDevice.h"
-#include "window/HelpWindow.h"
 #include "window/IniSettings.h"
 
 TEST(IniSettingsTest, AValueArrivesByteForByte) {
@@ -23,26 +22,6 @@ TEST(IniSettingsTest, AValueArrivesByteForByte) {
     std::filesystem::remove(own);
     mkfifo(own.c_str(), 0600);
     EXPECT_EQ(read("DataPath"), "/system") << "and no wait for the pipe";
-}
-
-TEST(HelpWindowTest, ShowsTheTopicOrTellsThatThereIsNone) {
-    const QString help = "94 ahead\n# 9 Nine\nnine\n# 94 Topic\ntext\n## 9 Part\nend\n";
-    EXPECT_EQ(FindTopic(help, 94), "# Topic\ntext\n## 9 Part\nend\n");
-    EXPECT_TRUE(FindTopic(help, 4).isNull());
-    Form form;
-    CommonDialog dialog(form, "CD1");
-    HelpWindow viewer;
-    dialog.HelpFile = "/no\\where.hlp";
-    dialog.HelpCommand = CommonDialog::ShowTopic;
-    viewer.ShowHelp(dialog);
-    auto* const shown = qobject_cast<QTextBrowser*>(QApplication::topLevelWidgets().value(0));
-    ASSERT_TRUE(shown && shown->isVisible());
-    EXPECT_EQ(shown->toPlainText(), "The help file cannot be read: /no/where.hlp");
-    const QTextDocument* const document = shown->document();
-    shown->showMinimized();
-    viewer.ShowHelp(dialog);
-    EXPECT_FALSE(shown->isMinimized());
-    EXPECT_EQ(shown->document(), document) << "at the place that the reader has reached";
 }
 
 TEST(FileDeviceTest, AFileIsFlushedAndWhatKnowsNoFlushCountsAsFlushed) {

@@ -1,0 +1,107 @@
+#include <sys/stat.h>
+
+#include "WindowTest.h"
+#include "window/HelpText.h"
+#include "window/HelpWindow.h"
+
+TEST(HelpTextTest, IsATopicOfARegularFileAndNothingElse) {
+    const TempFolder folder;
+    const std::string picture = folder / "dot.png";
+    QImage(1, 1, QImage::Format_RGB32).save(picture.c_str());
+    WriteBytes(folder / "short", "94 ahead\n# 9 Nine\nnine\n# 94 Topic\ntext\n## 9 Part\nend\n");
+    WriteBytes(folder / "long", "# 94 Topic\n" + std::string(300 << 10, '\n'));
+    WriteBytes(folder / "linked", "# 94 [A *b*](file:///c)\n![d](" + picture +
+                                      ") <http://e.org> <img src=\"" + picture + "\">\n");
+    mkfifo((folder / "pipe").c_str(), 0600);
+    struct Row {
+        std::string file, text;
+        int topic = 94;
+    };
+    const Row rows[]{
+        {"short", "Topic\ntext\n9 Part\nend"},
+        {"short", "The help file has no topic 4: " + folder / "short", 4},
+        {"long", "Topic\nThe help file is longer than 64 KiB. The rest is not shown."},
+        {"linked", "A b\nd http://e.org <img src=\"" + picture + "\">"},
+        {"pipe", "The help file cannot be read: " + folder / "pipe"},
+        {".", "The help file cannot be read: " + folder / "."},
+        {"none", "The help file cannot be read: " + folder / "none"},
+    };
+    for (const auto& [file, text, topic] : rows) {
+        const auto shown = HelpDocument(QString::fromStdString(folder / file), topic);
+        EXPECT_EQ(shown->toPlainText().toStdString(), text);
+        EXPECT_FALSE(shown->toHtml().contains("href")) << file;
+    }
+}
+
+TEST_F(WindowTest, HelpIsReadByKeysAndKeepsItsPlaceUntilItIsClosed) {
+    WriteBytes(folder / "help", "# 94 Top\nThe word.\n## Part\n\nA Word.\n");
+    form.CD1.HelpFile = folder / "\\help";
+    form.CD1.HelpContext = 94;
+    form.CD1.HelpCommand = CommonDialog::ShowTopic;
+    HelpWindow viewer(window);
+    viewer.ShowHelp(form.CD1);
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    const auto found = std::find_if(windows.begin(), windows.end(), [](QWidget* each) {
+        return each->windowTitle() == "TephrexEdit Help";
+    });
+    ASSERT_NE(found, windows.end());
+    QWidget& help = **found;
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&help));
+    const auto& page = *help.findChild<QTextEdit*>();
+    auto& list = *help.findChild<QTreeWidget*>();
+    struct Row {
+        QKeyCombination key;
+        int caret;
+        const char* said = "";
+    };
+    const Row rows[]{
+        {Qt::Key_Down, 4},
+        {Qt::Key_End, 13},
+        {Qt::Key_PageUp, 3},
+        {Qt::CTRL | Qt::Key_End, 26},
+        {Qt::Key_Home, 19},
+        {Qt::Key_F3, 19},  // asks for a word
+        {Qt::Key_W, 19},
+        {Qt::Key_Return, 22},
+        {Qt::Key_F3, 9, "Continued from the beginning"},
+        {Qt::SHIFT | Qt::Key_F3, 22, "Continued from the end"},
+        {Qt::Key_Escape, 22, "Continued from the end"},  // back to the text
+        {Qt::CTRL | Qt::Key_F, 22, "Continued from the end"},
+        {Qt::Key_Z, 22},
+        {Qt::Key_Return, 22, "Not found"},
+    };
+    for (const Row& row : rows) {
+        keyClick(QApplication::focusWidget(), row.key.key(), row.key.keyboardModifiers());
+        EXPECT_EQ(page.textCursor().position(), row.caret) << "row " << &row - rows;
+        EXPECT_EQ(help.findChild<QLineEdit*>()->accessibleDescription(), row.said);
+    }
+    emit list.itemActivated(list.topLevelItem(1), 0);
+    EXPECT_EQ(page.textCursor().block().text(), "Part");
+    EXPECT_TRUE(page.hasFocus());
+    help.showMinimized();
+    viewer.ShowHelp(form.CD1);
+    EXPECT_FALSE(help.isMinimized());
+    EXPECT_EQ(page.textCursor().block().text(), "Part") << "the place that was reached";
+    keyClick(&help, Qt::Key_W, Qt::ControlModifier);
+    EXPECT_FALSE(help.isVisible());
+    EXPECT_TRUE(window.isVisible());
+}
+
+TEST(HelpWindowTest, OpensBesideTheFormWhereThereIsRoom) {
+    const QSize wanted(700, 600);
+    const QSize least(400, 200);
+    struct Row {
+        QRect form, screen, place;
+    };
+    const Row rows[]{
+        {{700, 300, 500, 400}, {0, 0, 1920, 1080}, {1200, 200, 700, 600}},
+        {{700, 300, 500, 400}, {0, 30, 1700, 500}, {1200, 30, 500, 500}},
+        {{900, 300, 500, 400}, {0, 0, 1600, 1080}, {200, 200, 700, 600}},
+        {{100, 300, 500, 400}, {0, 0, 800, 1600}, {0, 700, 700, 600}},
+        {{100, 900, 500, 400}, {0, 0, 800, 1400}, {0, 300, 700, 600}},
+        {{100, 100, 500, 400}, {0, 0, 800, 600}, {100, 0, 700, 600}},  // no room
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(PlaceBeside(row.form, row.screen, wanted, least), row.place) << &row - rows;
+    }
+}
