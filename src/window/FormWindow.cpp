@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QLabel>
 #include <QScreen>
+#include <QWindow>
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -14,6 +15,7 @@
 #include "window/Scale.h"
 #include "window/ScreenText.h"
 #include "window/Shortcuts.h"
+#include "window/SizeLimits.h"
 #include "window/Views.h"
 
 namespace {
@@ -44,16 +46,18 @@ QIcon FormIcon() {
     return icon;
 }
 
-FormWindow::FormWindow(RecordEdit& ownForm) : form(ownForm) {
+FormWindow::FormWindow(RecordEdit& ownForm)
+    : form(ownForm), area(new FormArea(this)), limits(new SizeLimits(*this)) {
     setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                    Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
     setWindowTitle(ToScreen(FormCaption));
 
+    area->Page()->setPalette(ReadableWhenGreyed(palette()));
     DescribeWidgets();
     KeepLabelsPlain(*this);
     MakeViews();
     scale = FittingScale(views, form);
-    setFixedSize(Pixels(FormWidth), Pixels(FormHeight));
+    area->Page()->resize(Pixels(FormWidth), Pixels(FormHeight));
     PlaceViews();
     StackViews();
     ChainTabs();
@@ -76,8 +80,8 @@ FormWindow::~FormWindow() {
 
 void FormWindow::MakeViews() {
     for (const CatalogueRow& row : Catalogue()) {
-        View* const frame = Find(row.frame);
-        QWidget* const parent = frame != nullptr ? &frame->Widget() : this;
+        View* const around = Find(row.frame);
+        QWidget* const parent = around != nullptr ? &around->Widget() : area->Page();
         Control& control = *form.Find(row.name);
         if (auto view = NewView({control, row, parent, mirror, form.separators})) {
             mirror.Mark(*view);
@@ -129,15 +133,20 @@ void FormWindow::NameViews() {
 
 Extent FormWindow::ScreenSize() { return Twips(screen()->geometry().size()); }
 
-Extent FormWindow::FormSize() { return Twips(frameGeometry().size()); }
+Extent FormWindow::FormSize() { return Twips(area->Page()->size().grownBy(frame)); }
 
 void FormWindow::Move(int left, int top) {
-    move(screen()->geometry().topLeft() + QPoint(Pixels(left), Pixels(top)));
+    place = screen()->geometry().topLeft() + QPoint(Pixels(left), Pixels(top));
+    FitToScreen();
 }
 
 void FormWindow::Show() {
     mirror.BringUpToDate();
+    FitToScreen();
+    limits->Lift();
     show();
+    connect(windowHandle(), &QWindow::screenChanged, this, &FormWindow::FitToNewScreen,
+            Qt::UniqueConnection);
 }
 
 void FormWindow::RunPendingEvents() {
@@ -151,8 +160,20 @@ bool FormWindow::event(QEvent* event) {
     if (event->type() == QEvent::WindowBlocked) {
         mirror.BringUpToDate();  // the user sees the form behind the modal box
     }
+    if (event->type() == QEvent::Move || event->type() == QEvent::WindowActivate) {
+        CountFrame();
+    }
     return QWidget::event(event);
 }
+
+void FormWindow::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::PaletteChange) {
+        area->Page()->setPalette(ReadableWhenGreyed(palette()));
+    }
+    QWidget::changeEvent(event);
+}
+
+void FormWindow::resizeEvent(QResizeEvent* /*event*/) { area->setGeometry(rect()); }
 
 void FormWindow::closeEvent(QCloseEvent* event) {
     const Mirror::UserAction action(mirror);
@@ -170,6 +191,7 @@ void FormWindow::FollowFocus(QWidget* now) {
     if (found != views.end()) {
         const Mirror::UserAction action(mirror);
         mirror.Mark(**found);  // a box shows its selection only while it has the focus
+        area->Reveal((*found)->Widget());
         (*found)->Original().TakeFocus();
     }
 }
@@ -194,13 +216,49 @@ View& FormWindow::FocusHeir() const {
     return *byControl.at(&form.cmdHelp);
 }
 
+// The window is as large as the form, or as the screen has room, and clear of its panels.
+void FormWindow::FitToScreen() {
+    const QRect room = screen()->availableGeometry();
+    setFixedSize(area->SizeWithin(room.marginsRemoved(frame).size()));
+    if (place) {
+        const QSize whole = size().grownBy(frame);
+        const QPoint last = room.bottomRight() - QRect(QPoint(), whole).bottomRight();
+        move(std::max(room.left(), std::min(place->x(), last.x())),
+             std::max(room.top(), std::min(place->y(), last.y())));
+    }
+    connect(screen(), &QScreen::availableGeometryChanged, this, &FormWindow::FitToNewScreen,
+            Qt::UniqueConnection);
+}
+
+// A window that has the right size already stays where the user has put it.
+void FormWindow::FitToNewScreen() {
+    const QSize room = screen()->availableGeometry().marginsRemoved(frame).size();
+    const bool imposed = isMaximized() || isFullScreen();
+    if (!imposed && area->SizeWithin(room) != size()) {
+        place = pos();
+        FitToScreen();
+    }
+}
+
+// The place was computed for a form without a frame; its middle is to stay where it is.
+void FormWindow::CountFrame() {
+    const QMargins now = isVisible() ? windowHandle()->frameMargins() : QMargins();
+    if (frame.isNull() && !now.isNull()) {
+        frame = now;
+        if (place) {
+            *place -= QPoint(now.left() + now.right(), now.top() + now.bottom()) / 2;
+        }
+        FitToScreen();
+    }
+}
+
 View* FormWindow::Find(std::string_view name) const {
     const auto found = std::find_if(views.begin(), views.end(),
                                     [name](const auto& view) { return view->Row().name == name; });
     return found == views.end() ? nullptr : found->get();
 }
 
-int FormWindow::Pixels(int twips) const { return static_cast<int>(std::lround(twips * scale)); }
+int FormWindow::Pixels(int twips) const { return ToPixels(twips, scale); }
 
 Extent FormWindow::Twips(QSize pixels) const {
     return {static_cast<int>(std::lround(pixels.width() / scale)),

@@ -3,13 +3,17 @@
 #pragma once
 
 #include <QIcon>
+#include <QMargins>
 #include <QWidget>
+#include <optional>
 #include <string_view>
 #include <unordered_map>
 
 #include "form/RecordEdit.h"
 #include "shell/Services.h"
+#include "window/FormArea.h"
 #include "window/Mirror.h"
+#include "window/SizeLimits.h"
 #include "window/View.h"
 
 /// The form's icon, which serves all windows of the program.
@@ -24,7 +28,9 @@ public:
     ~FormWindow() override;
 
     Extent ScreenSize() override;
+    /// With the window's frame, as far as it is known.
     Extent FormSize() override;
+    /// On a screen smaller than the form the window goes where all of it can be seen.
     void Move(int left, int top) override;
     void Show() override;
     void RunPendingEvents() override;
@@ -33,6 +39,8 @@ public:
 
 protected:
     bool event(QEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     bool focusNextPrevChild(bool next) override;
 
@@ -44,15 +52,22 @@ private:
     void NameViews();
     void FollowFocus(QWidget* now);
     View& FocusHeir() const;
+    void FitToScreen();
+    void FitToNewScreen();
+    void CountFrame();
 
     View* Find(std::string_view name) const;
     int Pixels(int twips) const;
     Extent Twips(QSize pixels) const;
 
     RecordEdit& form;
+    FormArea* area;
+    SizeLimits* limits;
     Mirror mirror;
     Views views;
     std::unordered_map<const Control*, View*> byControl;
-    double scale = 0;  // logical pixels to the twip
+    double scale = 0;             // logical pixels to the twip
+    std::optional<QPoint> place;  // of the form with its frame
+    QMargins frame;               // none until the window manager has made it
     bool unloaded = false;
 };

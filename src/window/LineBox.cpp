@@ -3,8 +3,6 @@
 #include <QAccessible>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
-#include <QStyle>
-#include <QStyleOptionFrame>
 #include <utility>
 
 #include "window/ScreenText.h"
@@ -29,14 +27,6 @@ LineBox::LineBox(QWidget* parent) : TextLine(parent) {
     connect(this, &QLineEdit::textChanged, this, &LineBox::TellIfEdited);
     connect(this, &QLineEdit::selectionChanged, this, &LineBox::TellIfMoved);
     connect(this, &QLineEdit::cursorPositionChanged, this, &LineBox::TellIfMoved);
-}
-
-QSize LineBox::SizeFor(const QString& shown) const {
-    QStyleOptionFrame option;
-    initStyleOption(&option);
-    option.rect = QRect(0, 0, 500, 500);
-    const QSize inside = style()->subElementRect(QStyle::SE_LineEditContents, &option, this).size();
-    return RoomToEdit(shown, fontMetrics()) + option.rect.size() - inside;
 }
 
 // The toolkit announces what is typed, pasted or set, but not what is undone or done again.

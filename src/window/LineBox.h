@@ -11,9 +11,6 @@ class LineBox : public TextLine {
 public:
     explicit LineBox(QWidget* parent);
 
-    /// The smallest size at which the box shows the whole of such a text.
-    QSize SizeFor(const QString& shown) const;
-
     /// The box is one for numbers. Where their decimal sign is on no ordinary keyboard, a typed
     /// period or comma arrives as that sign. The sign is UTF-8 and has to outlive the box.
     void TypeDecimals(const std::string& sign) { decimalSign = &sign; }

@@ -8,7 +8,6 @@
 #include <QWheelEvent>
 #include <utility>
 
-#include "window/ScreenText.h"
 #include "window/TextLine.h"
 
 namespace {
@@ -20,8 +19,9 @@ bool MovesInList(int key) {
 
 }  // namespace
 
-ListBox::ListBox(QWidget* parent) : QComboBox(parent), entries(new QStringListModel(this)) {
-    setLineEdit(new TextLine(this));
+ListBox::ListBox(QWidget* parent)
+    : QComboBox(parent), line(new TextLine(this)), entries(new QStringListModel(this)) {
+    setLineEdit(line);
     setCompleter(nullptr);
     setInsertPolicy(QComboBox::NoInsert);
     setFocusPolicy(Qt::StrongFocus);
@@ -37,15 +37,14 @@ void ListBox::SetEntries(const QStringList& shown) {
     }
 }
 
-QSize ListBox::SizeFor(const QString& shown) const {
+QSize ListBox::SizeFor(const QString& shown) {
     QStyleOptionComboBox option;
     initStyleOption(&option);
-    option.rect = QRect(0, 0, 500, 500);
-    const QSize inside =
-        style()
-            ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this)
-            .size();
-    return RoomToEdit(shown, fontMetrics()) + option.rect.size() - inside;
+    option.rect = rect();
+    const QRect inside =
+        style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    line->resize(inside.size());
+    return line->SizeFor(shown) + size() - inside.size();
 }
 
 void ListBox::showPopup() {

@@ -5,6 +5,7 @@
 #include <QComboBox>
 
 class QStringListModel;
+class TextLine;
 
 class ListBox : public QComboBox {
     Q_OBJECT
@@ -15,8 +16,9 @@ public:
     /// Takes over the entries if they are others. The text of the box is then undefined.
     void SetEntries(const QStringList& shown);
 
-    /// The smallest size at which the box shows the whole of such a text.
-    QSize SizeFor(const QString& shown) const;
+    /// The smallest size at which the box shows the whole of such a text, with the arrow and the
+    /// borders that it has at its present size.
+    QSize SizeFor(const QString& shown);
 
     void showPopup() override;
     void hidePopup() override;
@@ -35,6 +37,7 @@ private:
     void PickIfJustClosed(int position);
     void PickIfSelectedFromAfar();
 
+    TextLine* line;
     QStringListModel* entries;
     bool justClosed = false;  // the list, and no key or loss of focus has come since
 };

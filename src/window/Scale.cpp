@@ -1,6 +1,7 @@
 #include "window/Scale.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "form/Catalogue.h"
 #include "window/WidestTexts.h"
@@ -26,7 +27,29 @@ bool Covers(const CatalogueRow& upper, const CatalogueRow& lower) {
            upper.top < lower.top + lower.height && lower.top < upper.top + upper.height;
 }
 
+// Borders and arrows can grow with the height, so that a larger scale asks for one larger still. As
+// the controls are wider than high, that soon comes to an end; with any other style it is cut
+// short.
+double ScaleToFit(View& view, const QString& text, double scale) {
+    constexpr int mostRounds = 8;
+    const CatalogueRow& row = view.Row();
+    const double width = row.width - CoveredWidth(row);
+    const double height = Headroom(row);
+    for (int round = 0; round < mostRounds; ++round) {
+        view.Widget().resize(ToPixels(row.width, scale), ToPixels(row.height, scale));
+        const QSize size = view.SizeWith(text);
+        const double needed = std::max(size.width() / width, size.height() / height);
+        if (needed <= scale) {
+            break;
+        }
+        scale = needed;
+    }
+    return scale;
+}
+
 }  // namespace
+
+int ToPixels(int twips, double scale) { return static_cast<int>(std::lround(twips * scale)); }
 
 int CoveredWidth(const CatalogueRow& row) {
     int covered = 0;
@@ -42,12 +65,8 @@ double FittingScale(const Views& views, const RecordEdit& form) {
     const auto texts = TextsToFit(form);
     double scale = UsualScale;
     for (const auto& view : views) {
-        const CatalogueRow& row = view->Row();
-        const double width = row.width - CoveredWidth(row);
-        const double height = Headroom(row);
         for (const QString& text : texts.at(&view->Original())) {
-            const QSize size = view->SizeWith(text);
-            scale = std::max({scale, size.width() / width, size.height() / height});
+            scale = ScaleToFit(*view, text, scale);
         }
     }
     return scale;

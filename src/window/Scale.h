@@ -11,5 +11,8 @@ struct RecordEdit;
 /// other texts; their views have to be brought up to date.
 double FittingScale(const Views& views, const RecordEdit& form);
 
+/// A length on the form as logical pixels, at so many pixels to the twip.
+int ToPixels(int twips, double scale);
+
 /// How much of a control's right end lies beneath its neighbours, in twips.
 int CoveredWidth(const CatalogueRow& row);

@@ -3,6 +3,9 @@
 #include <QDropEvent>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QStyleOptionFrame>
+
+#include "window/ScreenText.h"
 
 namespace {
 
@@ -33,6 +36,13 @@ bool BringsFile(const QEvent& event) {
 
 bool BringsCharacter(const QKeyEvent& event) {
     return !IsChord(event.modifiers()) && IsText(event.text());
+}
+
+QSize TextLine::SizeFor(const QString& shown) const {
+    QStyleOptionFrame option;
+    initStyleOption(&option);
+    const QSize inside = style()->subElementRect(QStyle::SE_LineEditContents, &option, this).size();
+    return RoomToEdit(shown, fontMetrics()) + size() - inside;
 }
 
 bool TextLine::event(QEvent* event) {

@@ -10,6 +10,10 @@ class TextLine : public QLineEdit {
 public:
     using QLineEdit::QLineEdit;
 
+    /// The smallest size at which the line shows the whole of such a text, with the borders that
+    /// it has at its present size.
+    QSize SizeFor(const QString& shown) const;
+
 protected:
     bool event(QEvent* event) override;
 };

@@ -32,6 +32,27 @@ bool View::eventFilter(QObject* watched, QEvent* event) {
     return QObject::eventFilter(watched, event);
 }
 
+namespace {
+
+QColor Mixed(const QColor& one, const QColor& other, float share) {
+    const auto mix = [share](float from, float to) { return share * from + (1 - share) * to; };
+    return QColor::fromRgbF(mix(one.redF(), other.redF()), mix(one.greenF(), other.greenF()),
+                            mix(one.blueF(), other.blueF()));
+}
+
+}  // namespace
+
+QPalette ReadableWhenGreyed(QPalette palette) {
+    constexpr float shareOfText = 0.6F;  // enough for a contrast of 3:1 on any usual desktop
+    const QColor back = palette.color(QPalette::Disabled, QPalette::Window);
+    palette.setColor(QPalette::Disabled, QPalette::Base, back);
+    for (const auto role : {QPalette::WindowText, QPalette::Text}) {
+        const QColor text = palette.color(QPalette::Active, role);
+        palette.setColor(QPalette::Disabled, role, Mixed(text, back, shareOfText));
+    }
+    return palette;
+}
+
 QPalette PalePalette(QPalette palette, QColor back) {
     constexpr QColor greyed(112, 112, 112);
     for (const auto role : {QPalette::Window, QPalette::Base}) {

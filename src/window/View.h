@@ -97,3 +97,6 @@ private:
 
 /// The palette with a pale back, and dark text on it: the back is as pale on a dark desktop.
 QPalette PalePalette(QPalette palette, QColor back);
+
+/// The palette with greyed texts that can still be read: messages speak of what they show.
+QPalette ReadableWhenGreyed(QPalette palette);

@@ -7,9 +7,12 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QStyleOptionGroupBox>
+#include <algorithm>
 
 #include "window/Access.h"
 #include "window/BoxViews.h"
+#include "window/LargeMarks.h"
 #include "window/ScreenText.h"
 
 namespace {
@@ -27,7 +30,13 @@ public:
 
     QSize SizeWith(const QString& text) override {
         widget.setTitle(text);
-        return {widget.minimumSizeHint().width(), widget.contentsMargins().top()};
+        QStyleOptionGroupBox option;
+        option.initFrom(&widget);
+        option.text = text;
+        option.subControls = QStyle::SC_GroupBoxFrame | QStyle::SC_GroupBoxLabel;
+        const QRect title = widget.style()->subControlRect(QStyle::CC_GroupBox, &option,
+                                                           QStyle::SC_GroupBoxLabel, &widget);
+        return {widget.minimumSizeHint().width(), title.bottom() + 1};
     }
 };
 
@@ -70,6 +79,7 @@ private:
 class CheckBoxView : public ViewOf<CheckBox, QCheckBox> {
 public:
     explicit CheckBoxView(const Subject& subject) : ViewOf(subject) {
+        EnlargeMark(widget);
         widget.setLayoutDirection(Qt::RightToLeft);  // the box stands behind its caption
         connect(&widget, &QCheckBox::toggled, this, [this](bool checked) {
             if (checked != (control.Value() == 1)) {
@@ -131,6 +141,7 @@ private:
 class OptionButtonView : public ViewOf<OptionButton, OptionWidget> {
 public:
     explicit OptionButtonView(const Subject& subject) : ViewOf(subject) {
+        EnlargeMark(widget);
         widget.setAutoExclusive(false);  // or the Tab key would reach one of the group only
         connect(&widget, &QRadioButton::toggled, this, [this](bool checked) {
             if (checked != control.Value()) {
@@ -157,11 +168,7 @@ public:
     explicit CommandButtonView(const Subject& subject) : ViewOf(subject) {
         widget.setAutoDefault(true);  // Enter presses the button that has the focus
         if (Row().look == Look::OpenPicture) {
-            QIcon icon;
-            for (const int size : {16, 20, 24, 32}) {
-                icon.addFile(QString(":/window/open-%1.xpm").arg(size), {size, size});
-            }
-            widget.setIcon(icon);
+            ShowPicture();
         }
         connect(&widget, &QPushButton::clicked, this,
                 [this] { OnUserAction([this] { control.Press(); }); });
@@ -176,6 +183,20 @@ public:
         const int border = 2 * widget.style()->pixelMetric(QStyle::PM_DefaultFrameWidth);
         const QSize inside = widget.fontMetrics().size(Qt::TextShowMnemonic, text);
         return inside + QSize(2 * border, border);
+    }
+
+private:
+    void ShowPicture() {
+        QIcon icon;
+        for (const int size : {16, 20, 24, 32}) {
+            icon.addFile(QString(":/window/open-%1.xpm").arg(size), {size, size});
+        }
+        const int size = std::max(widget.iconSize().width(), widget.fontMetrics().ascent() * 4 / 3);
+        if (size > 32) {
+            icon.addPixmap(QPixmap(":/window/open-32.xpm").scaled(2 * size, 2 * size));
+        }
+        widget.setIcon(icon);
+        widget.setIconSize({size, size});
     }
 };
 

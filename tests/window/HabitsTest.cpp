@@ -31,30 +31,3 @@ TEST_F(WindowTest, KeysOfTheFormDoWhatIsEnabledAndPressNoKeyInABox) {
         EXPECT_FALSE(form.Command2.Enabled());
     }
 }
-
-double Brightness(const QColor& color) {
-    return 0.2126 * std::pow(color.redF(), 2.2) + 0.7152 * std::pow(color.greenF(), 2.2) +
-           0.0722 * std::pow(color.blueF(), 2.2) + 0.05;
-}
-
-TEST_F(WindowTest, ColouredFieldsAreReadableInLightAndDark) {
-    for (const int grey : {35, 239}) {
-        QApplication::setPalette(QPalette(QColor(grey, grey, grey)));
-        FormWindow themed(form);
-        QWidgetList fields{themed.findChild<QWidget*>("labPhases")};
-        for (auto* const list : themed.findChildren<QComboBox*>()) {
-            fields << list->lineEdit() << list->view();
-        }
-        for (const QWidget* field : fields) {
-            const auto expect = [&colors = field->palette()](auto text, auto back) {
-                const double one = Brightness(colors.color(QPalette::Active, text));
-                const double other = Brightness(colors.color(QPalette::Active, back));
-                EXPECT_GE(std::max(one / other, other / one), 4.5) << text;
-            };
-            expect(QPalette::Text, QPalette::Base);
-            expect(QPalette::WindowText, QPalette::Window);
-            if (field->focusPolicy() != Qt::NoFocus)
-                expect(QPalette::HighlightedText, QPalette::Highlight);
-        }
-    }
-}

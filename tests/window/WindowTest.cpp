@@ -1,7 +1,6 @@
 #include "WindowTest.h"
 
 #include "window/MessageDialogs.h"
-#include "window/WidestTexts.h"
 
 TEST_F(WindowTest, OnlyKeysThatBringOrTakeACharacterCountAsPresses) {
     auto* const box = Find<QLineEdit>("txtWind");
@@ -172,56 +171,4 @@ TEST_F(WindowTest, TipsStandOverTheirOwnControlsOnly) {
     EXPECT_EQ(tipOver("txtMag"), "Edit the fault magnitude (0-5)") << "disabled, and has a tip";
     QTest::mouseMove(Find("txtTopFile"), {5, 5});
     EXPECT_EQ(tipOver("txtTopFile"), "No stratigraphic file attached");
-}
-
-// A box without room for its text, whose end it shows, scrolls on the way to the beginning.
-bool Scrolls(QLineEdit& box) {
-    const auto caret = [&box] {
-        box.grab();
-        return box.inputMethodQuery(Qt::ImCursorRectangle).toRect().x();
-    };
-    const int end = caret();
-    box.home(false);
-    return end - caret() < box.fontMetrics().horizontalAdvance(box.text()) - 1;
-}
-
-// Runs once for each scale factor of the screen.
-TEST_F(WindowTest, NothingIsCutOffInAnyFont) {
-    for (const int points : {6, 20, 9}) {
-        QApplication::setFont(QFont(QApplication::font().family(), points));
-        FormWindow sized(form);
-        sized.Show();
-        const int markWidth = sized.style()->pixelMetric(QStyle::PM_IndicatorWidth);
-        const auto expectRoom = [&](std::string_view name, const QString& text) {
-            auto* const widget = sized.findChild<QWidget*>(name.data());
-            auto* const list = qobject_cast<QComboBox*>(widget);
-            QSize wanted = widget->fontMetrics().size(0, text);
-            wanted.rwidth() += widget->property("checkable").toInt() * markWidth;
-            if (auto* const box = list ? list->lineEdit() : qobject_cast<QLineEdit*>(widget)) {
-                const QSignalBlocker noEdit(box);
-                box->setText(text);
-                EXPECT_FALSE(Scrolls(*box)) << name << points << text.toStdString();
-            }
-            EXPECT_TRUE(widget->size().boundedTo(wanted) == wanted) << name << points;
-        };
-        for (const auto& [control, texts] : TextsToFit(form)) {
-            for (const QString& text : control == &form.CD1 ? QStringList() : texts) {
-                expectRoom(control->Name(), text);
-            }
-        }
-        for (std::size_t type = form.cmbType.Entries().size(); type-- > 0;) {
-            form.cmbType.Pick(type);  // the first one, at last, has flows
-            expectRoom("chkCald", form.chkCald.Caption().data());
-            expectRoom("labSlide4", form.labSlide4.Caption().data());
-        }
-        form.txtBurst.SetText("100");
-        for (const ComboBox* list : {&form.cmbType, &form.cmbStyle, &form.cmbDown, &form.cmbFlow}) {
-            for (const std::string& entry : list->Entries()) {
-                expectRoom(list->Name(), entry.data());
-            }
-        }
-        const auto* const flow = sized.findChild<QComboBox*>("cmbFlow");
-        const int textEnd = flow->x() + flow->lineEdit()->geometry().right();
-        EXPECT_GE(sized.findChild<QWidget*>("txtLava")->x() - textEnd, 20) << "the arrow";
-    }
 }

@@ -1,0 +1,234 @@
+// The form on other screens, in windows of other sizes, and in other styles, fonts and colours.
+#include <qtestspontaneevent.h>
+
+#include <QProxyStyle>
+
+#include "WindowTest.h"
+#include "window/WidestTexts.h"
+
+class ScreenTest : public WindowTest {
+protected:
+    QScreen& large = *QGuiApplication::screens().first();
+    QScreen& small = *QGuiApplication::screens().last();
+    const QSize formSize = Page(window).size();
+
+    /// In a window of its own, as loading the form does it.
+    std::unique_ptr<FormWindow> Centred(QScreen& screen) {
+        auto centred = std::make_unique<FormWindow>(form);
+        centred->setScreen(&screen);
+        const Extent whole = centred->ScreenSize();
+        const Extent size = centred->FormSize();
+        centred->Move((whole.width - size.width) / 2, (whole.height - size.height) / 2);
+        centred->Show();
+        centred->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(centred.get()));
+        return centred;
+    }
+
+    static QWidget& Page(const FormWindow& shown) {
+        return *shown.findChild<QScrollArea*>()->widget();
+    }
+
+    static bool IsInSight(const QWidget& widget) {
+        return widget.visibleRegion().boundingRect() == widget.rect();
+    }
+};
+
+TEST_F(ScreenTest, TheWindowIsCentredWithItsFrameOrFillsASmallScreen) {
+    const auto centred = Centred(large);
+    const QPoint middle = centred->frameGeometry().center();
+    EXPECT_LE((middle - large.geometry().center()).manhattanLength(), 2);
+    EXPECT_GT(centred->frameGeometry().height(), formSize.height()) << "has no frame";
+    EXPECT_EQ(centred->minimumSize(), formSize);
+    EXPECT_EQ(centred->maximumSize(), formSize);
+
+    const auto fitted = Centred(small);
+    EXPECT_EQ(fitted->frameGeometry(), small.availableGeometry());
+    EXPECT_EQ(Page(*fitted).size(), formSize);
+    fitted->windowHandle()->setScreen(&large);
+    EXPECT_EQ(fitted->size(), formSize);
+}
+
+TEST_F(ScreenTest, ASmallWindowFollowsTheFocusAndItsWheelScrollsAndChangesNothing) {
+    const auto fitted = Centred(small);
+    for (Control* control : form.Controls()) {
+        control->SetEnabled(true);
+    }
+    fitted->RunPendingEvents();
+    const QScrollBar& bar = *fitted->findChild<QScrollArea*>()->verticalScrollBar();
+    const auto values = [&fitted] {
+        QStringList all;
+        for (const auto* const box : fitted->findChildren<QLineEdit*>()) all += box->text();
+        for (const auto* const mark : fitted->findChildren<QAbstractButton*>())
+            all += QString::number(mark->isChecked());
+        return all;
+    };
+    const QStringList before = values();
+    auto* const first = fitted->findChild<QWidget*>("cmbPhase");
+    first->setFocus();
+    do {
+        QWidget* const now = QApplication::focusWidget();
+        EXPECT_TRUE(IsInSight(*now)) << now->objectName().toStdString();
+        const int turn = bar.value() > 0 ? 120 : -120;
+        QWheelEvent wheel({5, 5}, now->mapToGlobal(QPointF(5, 5)), {}, {0, turn}, Qt::NoButton, {},
+                          Qt::NoScrollPhase, false);
+        const int height = bar.value();
+        QSpontaneKeyEvent::setSpontaneous(&wheel);  // or it would not go on to the area
+        qApp->notify(now, &wheel);
+        EXPECT_NE(bar.value(), height) << now->objectName().toStdString();
+        keyClick(now, Qt::Key_Tab);
+    } while (!first->hasFocus());
+    EXPECT_EQ(values(), before);
+}
+
+TEST_F(ScreenTest, InAnyImposedSizeTheFormIsInTheMiddleOrScrolls) {
+    const auto resize = [this](int width, int height) {
+        return [this, width, height] { window.windowHandle()->resize(width, height); };
+    };
+    const std::function<void()> impositions[]{
+        [this] { window.showMaximized(); },
+        [this] { window.showFullScreen(); },
+        resize(formSize.width() + 300, formSize.height() + 200),
+        resize(formSize.width() + 300, 200),
+        resize(400, formSize.height() + 200),
+    };
+    for (const auto& impose : impositions) {
+        impose();
+        window.RunPendingEvents();
+        ASSERT_NE(window.size(), formSize);
+        EXPECT_EQ(Page(window).size(), formSize);
+        const QPoint off = Page(window).mapTo(&window, Page(window).rect().center()) -
+                           Page(window).parentWidget()->rect().center();
+        EXPECT_TRUE(window.width() < formSize.width() || std::abs(off.x()) <= 1) << off.x();
+        EXPECT_TRUE(window.height() < formSize.height() || std::abs(off.y()) <= 1) << off.y();
+        for (const char* const corner : {"cmdOpen", "cmdHelp"}) {
+            Find(corner)->setFocus();
+            EXPECT_TRUE(IsInSight(*Find(corner))) << corner << &impose - impositions;
+        }
+        window.showNormal();
+    }
+    EXPECT_EQ(window.minimumSize(), formSize);
+}
+
+double Brightness(const QColor& color) {
+    return 0.2126 * std::pow(color.redF(), 2.2) + 0.7152 * std::pow(color.greenF(), 2.2) +
+           0.0722 * std::pow(color.blueF(), 2.2) + 0.05;
+}
+
+void ExpectContrast(const QWidget& field, QPalette::ColorGroup group, QPalette::ColorRole text,
+                    QPalette::ColorRole back, double least) {
+    const double one = Brightness(field.palette().color(group, text));
+    const double other = Brightness(field.palette().color(group, back));
+    EXPECT_GE(std::max(one / other, other / one), least)
+        << group << text << field.objectName().toStdString();
+}
+
+TEST_F(ScreenTest, FieldsAreReadableInLightAndDarkAndWhenGreyed) {
+    const QPalette usual = QApplication::palette();
+    FormWindow themed(form);
+    for (const int grey : {35, 239}) {
+        QApplication::setPalette(QPalette(QColor(grey, grey, grey)));
+        QWidgetList coloured{themed.findChild<QWidget*>("labPhases")};
+        for (auto* const list : themed.findChildren<QComboBox*>()) {
+            coloured << list->lineEdit() << list->view();
+        }
+        for (const QWidget* field : coloured) {
+            ExpectContrast(*field, QPalette::Active, QPalette::Text, QPalette::Base, 4.5);
+            ExpectContrast(*field, QPalette::Active, QPalette::WindowText, QPalette::Window, 4.5);
+            if (field->focusPolicy() != Qt::NoFocus)
+                ExpectContrast(*field, QPalette::Active, QPalette::HighlightedText,
+                               QPalette::Highlight, 4.5);
+        }
+        for (const QLineEdit* box : themed.findChildren<QLineEdit*>())
+            ExpectContrast(*box, QPalette::Disabled, QPalette::Text, QPalette::Base, 3);
+        for (const QLabel* label : themed.findChildren<QLabel*>())
+            ExpectContrast(*label, QPalette::Disabled, QPalette::WindowText, QPalette::Window, 3);
+    }
+    QApplication::setPalette(usual);
+}
+
+// Arrows as wide as they are high, wide margins, and much room above what is in a frame.
+class OddStyle : public QProxyStyle {
+public:
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+                         const QWidget* widget) const override {
+        const QRect whole = option->rect;
+        if (control == CC_ComboBox && part == SC_ComboBoxEditField) {
+            return whole.adjusted(6, 2, -whole.height(), -2);
+        }
+        if (control == CC_GroupBox && part == SC_GroupBoxContents) {
+            return whole.adjusted(4, 60, -4, -4);
+        }
+        return QProxyStyle::subControlRect(control, option, part, widget);
+    }
+    QRect subElementRect(SubElement element, const QStyleOption* option,
+                         const QWidget* widget) const override {
+        const QRect usual = QProxyStyle::subElementRect(element, option, widget);
+        return element == SE_LineEditContents ? usual.adjusted(6, 2, -6, -2) : usual;
+    }
+};
+
+// A box without room for its text, whose end it shows, scrolls on the way to the beginning.
+bool Scrolls(QLineEdit& box) {
+    const auto caret = [&box] {
+        box.grab();
+        return box.inputMethodQuery(Qt::ImCursorRectangle).toRect().x();
+    };
+    const int end = caret();
+    box.home(false);
+    return end - caret() < box.fontMetrics().horizontalAdvance(box.text()) - 1;
+}
+
+// Runs once for each scale factor of the screen.
+TEST_F(ScreenTest, NothingIsCutOffInAnyFontAndStyle) {
+    struct Row {
+        int points;
+        bool odd = false;
+    };
+    for (const Row row : {Row{6}, Row{20}, Row{20, true}, Row{9, true}, Row{9}}) {
+        const int points = row.points;
+        QApplication::setStyle(row.odd ? new OddStyle : QStyleFactory::create("fusion"));
+        QApplication::setFont(QFont(QApplication::font().family(), points));
+        FormWindow sized(form);
+        sized.Show();
+        EXPECT_LT(Page(sized).width(), formSize.width() * std::max(points / 9.0, 1.0) * 1.4);
+        const auto expectRoom = [&](std::string_view name, const QString& text) {
+            auto* const widget = sized.findChild<QWidget*>(name.data());
+            auto* const list = qobject_cast<QComboBox*>(widget);
+            QSize wanted = widget->fontMetrics().size(0, text);
+            if (qobject_cast<QAbstractButton*>(widget) && widget->property("checkable").toBool()) {
+                const auto mark = QStyle::PM_IndicatorWidth;
+                const int size = widget->style()->pixelMetric(mark, nullptr, widget);
+                EXPECT_GE(size, widget->fontMetrics().ascent()) << name << points;
+                wanted.rwidth() += size;
+            }
+            if (auto* const box = list ? list->lineEdit() : qobject_cast<QLineEdit*>(widget)) {
+                const QSignalBlocker noEdit(box);
+                box->setText(text);
+                EXPECT_FALSE(Scrolls(*box)) << name << points << text.toStdString();
+            }
+            EXPECT_TRUE(widget->size().boundedTo(wanted) == wanted) << name << points;
+        };
+        for (const auto& [control, texts] : TextsToFit(form)) {
+            for (const QString& text : control == &form.CD1 ? QStringList() : texts) {
+                expectRoom(control->Name(), text);
+            }
+        }
+        for (std::size_t type = form.cmbType.Entries().size(); type-- > 0;) {
+            form.cmbType.Pick(type);  // the first one, at last, has flows
+            expectRoom("chkCald", form.chkCald.Caption().data());
+            expectRoom("labSlide4", form.labSlide4.Caption().data());
+        }
+        form.txtBurst.SetText("100");
+        for (const ComboBox* list : {&form.cmbType, &form.cmbStyle, &form.cmbDown, &form.cmbFlow}) {
+            for (const std::string& entry : list->Entries()) {
+                expectRoom(list->Name(), entry.data());
+            }
+        }
+        const auto* const open = sized.findChild<QPushButton*>("cmdOpen");
+        EXPECT_GE(open->iconSize().height(), open->fontMetrics().ascent()) << "the folder";
+        const auto* const flow = sized.findChild<QComboBox*>("cmbFlow");
+        const int textEnd = flow->x() + flow->lineEdit()->geometry().right();
+        EXPECT_GE(sized.findChild<QWidget*>("txtLava")->x() - textEnd, 20) << "the arrow";
+    }
+}
