@@ -49,7 +49,9 @@ bool HasLongFlow(Judged& j) { return j.badFlow.has_value(); }
 
 Limits LongEnough(const Judged& j) { return {ShortestFlow(j.phase.eruptionType), {}}; }
 Limits ShortEnough(const Judged& j) {
-    return {{}, static_cast<Single>(LongestFlow(j.phase, j.badFlow->flow))};
+    const double longest = LongestFlow(j.phase, j.badFlow->flow);
+    const auto last = static_cast<Single>(longest);  // which can lie on either side of it
+    return {{}, static_cast<double>(last) > longest ? std::nextafter(last, 0.0F) : last};
 }
 
 }  // namespace

@@ -151,9 +151,11 @@ void JudgeFlows(Judged judged, std::vector<Fault>& faults) {
         }
     }
     if (overflowed) {
+        const auto [lowest, highest] =
+            FlowLengthsThatFit(judged.phase.eruptionType, judged.phase.burstCount);
         faults.push_back({.message = "Overflow",
                           .field = &FieldOf(&PhaseRecord::flowLength),
-                          .passing = {},
+                          .passing = {lowest, highest},
                           .correction = {}});
     }
 }

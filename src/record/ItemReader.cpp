@@ -30,10 +30,11 @@ unsigned KindOf(char c) { return Kinds[static_cast<unsigned char>(c)]; }
 }  // namespace
 
 // Room for the longest unfinished item and one more piece.
-ItemReader::ItemReader(std::streambuf& stream) : source(stream), buffer(LongestItem + Piece) {}
+ItemReader::ItemReader(std::streambuf& stream)
+    : source(stream), buffer(std::make_unique_for_overwrite<char[]>(LongestItem + Piece)) {}
 
 std::string_view ItemReader::Text() {
-    std::string_view item = Next(Comma | LineEnd);
+    Next(Comma | LineEnd);
     if (pending == Pending::Separator) {
         item.remove_suffix(item.size() - (item.find_last_not_of(' ') + 1));
     }
@@ -70,8 +71,8 @@ bool ItemReader::ReadInPlace(Number& value) {
     PassPending();
     itemLine = line;
     Number number = 0;
-    const auto [stop, error] = std::from_chars(buffer.data() + at, buffer.data() + end, number);
-    const auto after = static_cast<std::size_t>(stop - buffer.data());
+    const auto [stop, error] = std::from_chars(buffer.get() + at, buffer.get() + end, number);
+    const auto after = static_cast<std::size_t>(stop - buffer.get());
     const bool plain = error == std::errc{} && std::isfinite(number) && after + 1 < end &&
                        Is(after, Comma | LineEnd);
     if (plain) {
@@ -104,7 +105,7 @@ std::string_view ItemReader::Next(unsigned ends) {
         ++at;
     }
     const std::size_t length = Measure(quoted ? unsigned{Quote} : ends);
-    const std::string_view item(buffer.data() + at, length);
+    item = std::string_view(buffer.get() + at, length);
     at += length;
     line += quoted ? LineEndsIn(at - length, at) : 0;
     pending = quoted ? Pending::Rest : Pending::Separator;
@@ -117,13 +118,38 @@ void ItemReader::PassPending() {
     const Pending left = std::exchange(pending, Pending::Nothing);
     if (left == Pending::Rest) {
         at += at < end ? 1 : 0;  // the closing quote
-        SkipWhile([this] { return !Is(at, Comma | LineEnd); });
+        dropped = false;
+        SkipWhile([this] {
+            const bool isRest = !Is(at, Comma | LineEnd);
+            dropped = dropped || (isRest && !Is(at, Blank));
+            return isRest;
+        });
     } else if (left == Pending::Separator && More() && Is(at, Blank)) {
         SkipWhile([this] { return Is(at, Blank); });
     }
     if (left != Pending::Nothing && More() && Is(at, Comma | LineEnd)) {
         TakeSeparator();
     }
+}
+
+std::int64_t ItemReader::LineOfMore() {
+    if (pending == Pending::Nothing && at > 0 && buffer[at - 1] == ',') {
+        return line;
+    }
+    if (pending == Pending::Rest) {
+        at += at < end ? 1 : 0;
+        for (dropped = false; More() && !Is(at, Comma | LineEnd); ++at) {
+            dropped = dropped || !Is(at, Blank);
+        }
+    }
+    while (More() && Is(at, Blank | LineEnd)) {
+        if (Is(at, Blank)) {
+            ++at;
+        } else {
+            TakeSeparator();
+        }
+    }
+    return More() ? line : 0;
 }
 
 void ItemReader::TakeSeparator() {
@@ -173,10 +199,10 @@ bool ItemReader::Refill() {
     if (ended) {
         return false;
     }
-    std::memmove(buffer.data(), buffer.data() + at, end - at);
+    std::memmove(buffer.get(), buffer.get() + at, end - at);
     end -= at;
     at = 0;
-    const std::streamsize got = source.sgetn(buffer.data() + end, Piece);
+    const std::streamsize got = source.sgetn(buffer.get() + end, Piece);
     ended = got <= 0;
     if (!ended) {
         end += static_cast<std::size_t>(got);

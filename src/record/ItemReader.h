@@ -4,10 +4,10 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <stdexcept>
 #include <streambuf>
 #include <string_view>
-#include <vector>
 
 #include "record/PhaseRecord.h"
 
@@ -43,6 +43,20 @@ public:
     /// item, the last line that holds a byte.
     std::int64_t Line() const { return itemLine; }
 
+    /// Whether the last item was a number as files mostly have it. Of any other item, until the
+    /// next is read: its text, and whether it was in quotes.
+    bool Plain() const { return pending == Pending::Nothing; }
+    std::string_view Item() const { return item; }
+    bool Quoted() const { return pending == Pending::Rest; }
+
+    /// Whether more than blanks was dropped after the closing quote of the last quoted item; known
+    /// once the next item has been asked for, or what follows the last one.
+    bool Dropped() const { return dropped; }
+
+    /// The line of the first character after the last item that is neither a blank nor a line end;
+    /// 0 if there is none. Reads to it, or to the end of the stream; then no item can be read.
+    std::int64_t LineOfMore();
+
 private:
     // What is still between the last item and the next.
     enum class Pending { Nothing, Separator, Rest };
@@ -63,10 +77,12 @@ private:
     bool Refill();
 
     std::streambuf& source;
-    std::vector<char> buffer;
+    std::unique_ptr<char[]> buffer;
     std::size_t at = 0;
     std::size_t end = 0;
     bool ended = false;
+    bool dropped = false;
+    std::string_view item;
     char lastByte = 0;  // that the stream has given
     Pending pending = Pending::Nothing;
     std::int64_t line = 1;  // of what comes next

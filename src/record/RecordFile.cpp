@@ -21,6 +21,13 @@ constexpr std::size_t Piece = 16384;
 constexpr std::string_view Comma = ",";
 constexpr std::string_view LineEnd = "\r\n";
 
+char* WriteDigits(char* to, char* end, Single item) {
+    const Single unsignedZero = item == 0 ? 0 : item;
+    end = std::to_chars(to, end, unsignedZero, std::chars_format::general, SignificantDigits).ptr;
+    std::replace(to, end, 'e', 'E');
+    return end;
+}
+
 // Builds lines of items and hands them to a stream, a piece at a time. Every item brings what comes
 // after it.
 class LineWriter {
@@ -37,14 +44,7 @@ public:
         AddDigits(after, [item](char* to, char* end) { return std::to_chars(to, end, item).ptr; });
     }
     void Add(Single item, std::string_view after) {
-        const Single unsignedZero = item == 0 ? 0 : item;
-        AddDigits(after, [unsignedZero](char* to, char* end) {
-            end =
-                std::to_chars(to, end, unsignedZero, std::chars_format::general, SignificantDigits)
-                    .ptr;
-            std::replace(to, end, 'e', 'E');
-            return end;
-        });
+        AddDigits(after, [item](char* to, char* end) { return WriteDigits(to, end, item); });
     }
     void End(std::string_view after) {
         text += after;
@@ -75,7 +75,7 @@ private:
 
 void WritePhase(LineWriter& out, Integer number, const PhaseRecord& phase, const FlowRow& flows) {
     out.End(LineEnd);
-    out.Add("Record Phase: ", Comma);
+    out.Add(PhaseLabel, Comma);
     out.Add(number, LineEnd);
     ForEachField(phase, [&out](auto index, const auto& value) {
         constexpr std::size_t next = index + 1;
@@ -91,9 +91,9 @@ void WritePhase(LineWriter& out, Integer number, const PhaseRecord& phase, const
 }
 
 void WriteLines(LineWriter& out, const EditorState& state) {
-    out.Add("Stratigraphic file:", Comma);
+    out.Add(ReferenceLabel, Comma);
     out.Add(std::string_view(state.StratFile), LineEnd);
-    out.Add("Recorded phases", Comma);
+    out.Add(PhaseCountLabel, Comma);
     out.Add(state.LoadedPhaseCount, Comma);
     out.Add(state.RecordScale, LineEnd);
     for (Integer i = 1; i <= state.LoadedPhaseCount; ++i) {
@@ -111,7 +111,8 @@ ReadResult NotOpened(std::string reason) {
 ReadResult ReadRecord(std::streambuf& source, EditorState& state) {
     try {
         ItemReader in(source);
-        return ReadRecordWith(in, state);
+        ItemPlace place;
+        return ReadRecordWith(in, state, place);
     } catch (const std::exception& error) {  // no memory for the reader
         return NotOpened(error.what());
     }
@@ -130,6 +131,15 @@ ReadResult ReadRecordFile(const std::string& path, EditorState& state) {
     return ReadRecord(file, state);
 }
 
+std::string ItemText(Single number) {
+    std::array<char, 24> digits{};
+    return {digits.data(), WriteDigits(digits.data(), digits.data() + digits.size(), number)};
+}
+
+bool IsStorable(std::string_view reference) {
+    return reference.find('"') == reference.npos && reference.size() <= LongestItem;
+}
+
 bool WriteRecord(std::streambuf& target, const EditorState& state) {
     try {
         LineWriter out(target);
@@ -141,7 +151,7 @@ bool WriteRecord(std::streambuf& target, const EditorState& state) {
 }
 
 bool WriteRecordFile(const std::string& path, const EditorState& state) {
-    if (state.StratFile.find('"') != std::string::npos || state.StratFile.size() > LongestItem) {
+    if (!IsStorable(state.StratFile)) {
         return false;
     }
     std::error_code error;

@@ -14,6 +14,7 @@
 #include <optional>
 #include <streambuf>
 #include <string>
+#include <string_view>
 #include <system_error>
 
 #include "record/EditorState.h"
@@ -41,10 +42,10 @@ struct ReadResult {
 /// too early or fails, or if a count or a number is out of range; what came before it is kept.
 ReadResult ReadRecord(std::streambuf& source, EditorState& state);
 
-/// The same with a reader of one's own, which has the functions of ItemReader.
+/// The same with a reader of one's own, which has the functions of ItemReader. `place` is always
+/// that of the item that is being read.
 template <class Reader>
-ReadResult ReadRecordWith(Reader& in, EditorState& state) {
-    ItemPlace place;
+ReadResult ReadRecordWith(Reader& in, EditorState& state, ItemPlace& place) {
     try {
         ReadRecordItems(in, place, state);
         return {};
@@ -58,10 +59,17 @@ ReadResult ReadRecordWith(Reader& in, EditorState& state) {
 /// The same for a regular file or a link to one; anything else under that name reads as failed.
 ReadResult ReadRecordFile(const std::string& path, EditorState& state);
 
+/// A number as a record has it: seven digits at most.
+std::string ItemText(Single number);
+
+/// Whether a reference can be written so that it reads back: there is no double quote in it, and it
+/// is no longer than an item can be.
+bool IsStorable(std::string_view reference);
+
 /// Writes the loaded copy. False if the stream takes less than all of it.
 bool WriteRecord(std::streambuf& target, const EditorState& state);
 
 /// Replaces the file from its first line on; true only when every byte has reached it and it is
-/// closed. A reference that could not be read back (a double quote in it, or longer than an item
-/// can be) fails before the file is touched; so does a pipe, which would wait for a reader.
+/// closed. A reference that is not storable fails before the file is touched; so does a pipe, which
+/// would wait for a reader.
 bool WriteRecordFile(const std::string& path, const EditorState& state);

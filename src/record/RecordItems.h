@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "record/EditorState.h"
 #include "record/ItemReader.h"
@@ -19,6 +20,11 @@ struct ItemPlace {
 
     friend bool operator==(const ItemPlace&, const ItemPlace&) = default;
 };
+
+/// The labels that a record is written with. No reader compares them with what it finds.
+constexpr std::string_view ReferenceLabel = "Stratigraphic file:";
+constexpr std::string_view PhaseCountLabel = "Recorded phases";
+constexpr std::string_view PhaseLabel = "Record Phase: ";
 
 /// The name of an item: that of its field, "flow 3", "phase count" and so on.
 std::string NameOf(const ItemPlace& place);

@@ -39,6 +39,16 @@ double LongestFlow(const PhaseRecord& phase, int flow) {
     return neutral + Fit16(steps * neutral) / 10.0;
 }
 
+// Of all flows the last has the largest product; a Hawaiian ceiling is a sum besides.
+FlowLengths FlowLengthsThatFit(Integer eruptionType, int last) {
+    const bool hawaiian = eruptionType == EruptionType::Hawaiian;
+    const int neutral = NeutralCeiling(hawaiian, last);
+    const int step = hawaiian ? neutral / 10 : neutral;
+    const int most = std::numeric_limits<Integer>::max() - (hawaiian ? neutral : 0);
+    return {static_cast<Integer>(NeutralFlowLength + std::numeric_limits<Integer>::min() / step),
+            static_cast<Integer>(NeutralFlowLength + most / step)};
+}
+
 RandomSource NewRandomSource() {
     return [engine = std::mt19937()]() mutable {
         return static_cast<Single>(engine() >> 8U) / 16777216.0F;

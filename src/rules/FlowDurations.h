@@ -24,6 +24,13 @@ struct BadFlow {
 Single ShortestFlow(Integer eruptionType);
 double LongestFlow(const PhaseRecord& phase, int flow);
 
+/// The flow lengths for which the ceilings of flows 1 to `last` stay in 16 bits.
+struct FlowLengths {
+    Integer lowest;
+    Integer highest;
+};
+FlowLengths FlowLengthsThatFit(Integer eruptionType, int last);
+
 /// The first of the flows `first` to `last` of a Hawaiian or Peléean phase that is out of its
 /// limits, if any. Throws as above, and std::out_of_range for a flow above 100.
 std::optional<BadFlow> FirstBadFlow(const PhaseRecord& phase, const FlowRow& flows, int first,

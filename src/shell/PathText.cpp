@@ -1,12 +1,7 @@
 #include "shell/PathText.h"
 
-#include <cstddef>
-#include <string_view>
 #include <vector>
 
-namespace {
-
-// The length in bytes of the UTF-8 sequence at the start of a text; 1 where there is none.
 std::size_t SequenceLength(std::string_view text) {
     const auto byte = [text](std::size_t i) { return static_cast<unsigned char>(text[i]); };
     const unsigned char first = byte(0);
@@ -24,8 +19,6 @@ std::size_t SequenceLength(std::string_view text) {
                        !(first == 0xF0 && byte(1) < 0x90) && !(first == 0xF4 && byte(1) > 0x8F);
     return valid ? length : 1;
 }
-
-}  // namespace
 
 std::string ShortenPath(const std::string& text) {
     constexpr std::size_t longest = 40;

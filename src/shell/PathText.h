@@ -1,7 +1,13 @@
 // How a path is shortened for a narrow field. Which paths are shown where is the form's business.
 #pragma once
 
+#include <cstddef>
 #include <string>
+#include <string_view>
+
+/// The length in bytes of the UTF-8 sequence at the start of a text, which is not empty; 1 where
+/// there is none.
+std::size_t SequenceLength(std::string_view text);
 
 /// A text of more than 40 characters as "..." and its last 37; any other as it is. Counts code
 /// points and never cuts one; a byte that is not UTF-8 counts as one.
