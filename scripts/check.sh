@@ -25,6 +25,12 @@ if awk 'NR == FNR { plain[$1]; next } $1 in plain && !($2 in plain)' \
     echo "A plain unit may include plain units only"
     exit 1
 fi
+# Nor does a program without a form include anything but that library and its own units.
+if awk 'NR == FNR { plain[$1]; next } $1 ~ /^check\// && $2 !~ /^check\// && !($2 in plain)' \
+    src/plain_units.txt build/arrows | grep .; then
+    echo "tephrexcheck may include the plain library only"
+    exit 1
+fi
 # A unit of that list that is gone, or misspelt, would be checked no more.
 while read -r unit; do
     [ -f "src/$unit.h" ] || { echo "src/plain_units.txt: there is no $unit" && exit 1; }

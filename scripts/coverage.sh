@@ -18,7 +18,7 @@ find build/coverage -name '*.gcda' -print0 |
     awk '
         $1 == "-:" && /0:Source:/ {
             file = substr($0, index($0, "Source:") + 7)
-            ours = file ~ /^src\/(record|shell|rules|display|editing|form)\//
+            ours = file ~ /^src\/(record|shell|rules|display|editing|form|check)\//
         }
         !ours { next }
         /^ *[0-9#=]+\*?: *[0-9]+:/ {

@@ -25,5 +25,5 @@ install_missing() {
         apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 }
 
-build_packages=(g++ cmake make qt6-base-dev librsvg2-bin)
+build_packages=(g++ cmake make qt6-base-dev libcli11-dev nlohmann-json3-dev librsvg2-bin)
 screen_packages=(xvfb xdotool openbox imagemagick fonts-dejavu-core)

@@ -1,0 +1,82 @@
+#include "check/PhaseWarnings.h"
+
+#include "record/RecordFile.h"
+#include "rules/EruptionTypes.h"
+#include "rules/FieldUse.h"
+
+namespace {
+
+using P = PhaseRecord;
+
+// A field that holds a code or a flag: whether the one of a phase means nothing, and what is said
+// of it.
+struct Code {
+    const PhaseField& field;
+    bool (*isUnknown)(const PhaseRecord& phase);
+    std::string_view message;  // what follows the code
+};
+
+template <auto Flag>
+bool IsNoFlag(const PhaseRecord& phase) {
+    return phase.*Flag != 0 && phase.*Flag != 1;
+}
+
+constexpr std::string_view NoFlag = " is neither 0 nor 1";
+
+// clang-format off
+constexpr std::array<Code, 8> Codes{{
+    {FieldOf(&P::eruptionType),  [](const P& p) { return p.eruptionType == EruptionType::None; },
+                                 " means that no eruption type is chosen"},
+    {FieldOf(&P::eruptionType),  [](const P& p) { return p.eruptionType != EruptionType::None &&
+                                                         !IsEruptionType(p.eruptionType); },
+                                 " is no eruption type"},
+    {FieldOf(&P::calderaFlag),   IsNoFlag<&P::calderaFlag>,  NoFlag},
+    {FieldOf(&P::directedFlag),  IsNoFlag<&P::directedFlag>, NoFlag},
+    {FieldOf(&P::calderaStyle),  [](const P& p) { return p.calderaStyle != 0 &&
+                                                         StyleEntry(p.calderaStyle, "").empty(); },
+                                 " is no caldera style"},
+    {FieldOf(&P::burstFlag),     IsNoFlag<&P::burstFlag>,    NoFlag},
+    {FieldOf(&P::tectonicKind),  [](const P& p) { return p.tectonicKind != TectonicKind::Faulting &&
+                                                         p.tectonicKind != TectonicKind::Erosion &&
+                                                         (p.tectonicKind != 0 ||
+                                                          p.eruptionType == EruptionType::Tectonic); },
+                                 " is neither Faulting nor Erosion"},
+    {FieldOf(&P::faultDownSide), [](const P& p) { return p.faultDownSide != 0 &&
+                                                         SideEntry(p.faultDownSide, "").empty(); },
+                                 " is no down side"},
+}};
+// clang-format on
+
+bool BoxKeeps(const FieldRange& range, Single value) {
+    switch (range.kind) {
+        case FieldRange::Any: return true;
+        case FieldRange::Between: return value >= range.low && value <= range.high;
+        case FieldRange::AboveZero: return value > 0;
+    }
+    return true;
+}
+
+std::string Outside(const FieldRange& range) {
+    return range.kind == FieldRange::Between
+               ? " is outside " + ItemText(range.low) + " to " + ItemText(range.high)
+               : " is not above 0";
+}
+
+}  // namespace
+
+void WarnOfNumbers(
+    const PhaseRecord& phase,
+    const std::function<void(const PhaseField& field, const std::string& message)>& warn) {
+    for (const Code& code : Codes) {
+        if (code.isUnknown(phase)) {
+            warn(code.field, ItemText(ValueOf(phase, code.field)) + std::string(code.message));
+        }
+    }
+    ForEachField(phase, [&](auto index, const auto& number) {
+        constexpr const PhaseField& field = PhaseFields[index];
+        const auto value = static_cast<Single>(number);
+        if (!BoxKeeps(field.range, value) && Uses(phase, field)) {
+            warn(field, ItemText(value) + Outside(field.range));
+        }
+    });
+}

@@ -1,0 +1,107 @@
+// tephrexcheck: the command line, and nothing else.
+
+#include <unistd.h>
+
+#include <CLI/CLI.hpp>
+#include <csignal>
+#include <cstdlib>
+#include <exception>
+#include <iostream>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "check/CheckRun.h"
+
+namespace {
+
+constexpr int WrongUse = 2;
+
+struct Options {
+    std::vector<std::string> names;
+    int jobs = static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
+    bool json = false;
+    bool quiet = false;
+    bool strict = false;
+};
+
+void Describe(CLI::App& app, Options& options) {
+    app.set_help_flag("-h,--help", "Show this help and end");
+    app.set_version_flag("-V,--version", "tephrexcheck " TEPHREX_VERSION,
+                         "Show the version and end");
+    app.add_option("RECORD", options.names,
+                   "A file, a folder (every *.rec below it), or - for standard input")
+        ->required();
+    app.add_option("-j,--jobs", options.jobs, "How many records to check at a time")
+        ->check(CLI::Range(1, 1024))
+        ->capture_default_str();
+    app.add_flag("--json", options.json, "Print one JSON object a record, each on a line");
+    app.add_flag("-q,--quiet", options.quiet, "Print nothing: the exit status alone");
+    app.add_flag("--strict", options.strict, "Count a record with warnings as invalid");
+    app.footer(
+        "Exit status: 0 if all records pass, 1 if one is invalid, 2 if one cannot be read or the\n"
+        "command line is wrong.");
+}
+
+// The arguments, the last first. The parser takes one in brackets for a list: a byte that no
+// argument can have hides the bracket, until the names are there.
+std::vector<std::string> Hidden(int argc, char** argv) {
+    std::vector<std::string> arguments;
+    for (int i = argc - 1; i > 0; --i) {
+        arguments.emplace_back(argv[i]);
+        arguments.back().append(arguments.back().ends_with(']') ? 1 : 0, '\0');
+    }
+    return arguments;
+}
+
+void Parse(CLI::App& app, Options& options, int argc, char** argv) {
+    std::vector<std::string> arguments = Hidden(argc, argv);
+    app.parse(arguments);
+    for (std::string& name : options.names) {
+        name = name.c_str();
+    }
+}
+
+bool MayColour() {
+    const char* const forbidden = std::getenv("NO_COLOR");
+    return IsTerminal(STDOUT_FILENO) && (forbidden == nullptr || *forbidden == 0);
+}
+
+int Run(const Options& options) {
+    std::signal(SIGPIPE, SIG_IGN);  // a closed pipe is a write that fails
+    const ReportForm form{options.json, options.quiet, options.strict,
+                          !options.json && MayColour()};
+    Output output(!options.quiet);
+    const Tally tally = CheckRecords(ListRecords(options.names), options.jobs, form, output);
+    if (!options.json && !options.quiet) {
+        output.Write(tally.Summary());
+    }
+    if (output.Failed()) {
+        if (!output.Failure().empty()) {
+            std::cerr << "tephrexcheck: standard output: " << output.Failure() << '\n';
+        }
+        return 2;
+    }
+    return tally.Status();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    try {
+        Options options;
+        CLI::App app(
+            "Lists everything that is wrong with the records of the Tephrex eruption simulator.",
+            "tephrexcheck");
+        Describe(app, options);
+        try {
+            Parse(app, options, argc, argv);
+        } catch (const CLI::ParseError& error) {
+            return app.exit(error) == 0 ? 0 : WrongUse;
+        }
+        return Run(options);
+    } catch (const std::exception& error) {
+        std::cerr << "tephrexcheck: " << error.what() << '\n';
+        return WrongUse;
+    }
+}
