@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <cstdlib>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -14,6 +15,12 @@
 
 /// A whole number from 0 to `below` - 1.
 using Choices = std::function<std::size_t(std::size_t below)>;
+
+/// The number in a variable of the environment, for a monkey's seed or the number of its acts.
+inline unsigned long FromEnvironment(const char* name, unsigned long fallback) {
+    const char* const text = std::getenv(name);
+    return text == nullptr ? fallback : std::strtoul(text, nullptr, 10);
+}
 
 class User {
 public:
@@ -45,6 +52,16 @@ public:
             readDataFailed |= message.text.starts_with("RecordEdit ReadData error");
         }
         return verb + ' ' + control.Name() + ' ' + text;
+    }
+
+    /// What the next dialog answers, with a file that can be damaged.
+    void PrepareAnswer() {
+        if (choose(4) == 0) {
+            Damage();
+        }
+        if (choose(8) != 0) {
+            platform.answers.push_back(folder / OneOf(Names));
+        }
     }
 
     /// What does not hold now, in words; empty if all does.
@@ -88,12 +105,7 @@ private:
             return {"pick", OneOf(list->Entries())};
         }
         if (dynamic_cast<const CommandButton*>(&control) != nullptr) {
-            if (choose(4) == 0) {
-                Damage();
-            }
-            if (choose(8) != 0) {
-                platform.answers.push_back(folder / OneOf(Names));
-            }
+            PrepareAnswer();
             return {"press", ""};
         }
         return {dynamic_cast<const CheckBox*>(&control) != nullptr       ? "toggle"

@@ -1,16 +1,10 @@
 // A monkey at the form: seeded, so that what it breaks can be broken again. The environment can ask
 // for another seed (TEPHREX_MONKEY_SEED) and a longer run (TEPHREX_MONKEY_ACTS).
-#include <cstdlib>
 #include <random>
 
 #include "Acts.h"
 
 namespace {
-
-unsigned long FromEnvironment(const char* name, unsigned long fallback) {
-    const char* const text = std::getenv(name);
-    return text == nullptr ? fallback : std::strtoul(text, nullptr, 10);
-}
 
 using MonkeyTest = FormTest;
 
