@@ -1,4 +1,4 @@
-# The version stands in the project's declaration and its date in the change log. Both are compared
+# The version is in the project's declaration and its date in the change log. Both are compared
 # here with what else names them; the manual has them filled in.
 
 set(TEPHREX_CHANGELOG ${CMAKE_CURRENT_LIST_DIR}/changelog)

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Runs the tests of the core and tells which of its lines and branches they reach, and where the
-# others are. Branches that only exceptions take are left out: a throw, what lies behind it on a
+# Runs the tests of the core and reports which of its lines and branches they reach, and where the
+# others are. Branches that only exceptions take are left out: a throw, what comes after it on a
 # line that was reached without it, and the types that a catch does not take. So are those that the
 # compiler makes for a default. Further arguments go to the tests.
 . "$(dirname "$0")/lib.sh"

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# pictures.sh PROGRAM: makes the pictures of the README anew, from the running program with the
+# pictures.sh PROGRAM: makes the pictures of the README again, from the running program with the
 # demonstration record.
 . "$(dirname "$0")/lib.sh"
 

@@ -12,7 +12,7 @@ mkdir -m 700 "$home/.config" "$home/run"
 export HOME=$home XDG_RUNTIME_DIR=$home/run
 unset XDG_CONFIG_HOME XDG_CACHE_HOME XDG_DATA_HOME XDG_STATE_HOME XDG_CONFIG_DIRS
 
-# The server picks a free number by itself, so walks can go on side by side. It must not start anew
+# The server picks a free number by itself, so walks can go on side by side. It must not reset
 # when its last client goes: another one that is just coming in, such as openbox, would be thrown out.
 Xvfb -noreset -displayfd 3 -screen 0 "${TEPHREX_SCREEN:-1600x1200x24}" 3>"$home/display" 2>/dev/null &
 for _ in $(seq 200); do
@@ -76,7 +76,7 @@ start_editor() {
     eval "$(xdotool getwindowgeometry --shell "$form" | grep -E '^(WIDTH|HEIGHT)=')"
 }
 
-# click LEFT TOP: the middle of what stands there on the form.
+# click LEFT TOP: the middle of what is there on the form.
 click() {
     xdotool mousemove --window "$form" $(($1 * WIDTH / 7665)) $(($2 * HEIGHT / 5970)) click 1
     sleep 0.15
@@ -98,7 +98,7 @@ press() {
     click ${place[$1]}
 }
 
-# fill BOX TEXT: the click selects what stands there, and the text replaces it.
+# fill BOX TEXT: the click selects what is there, and the text replaces it.
 fill() {
     press "$1"
     type_text "$2"
