@@ -8,6 +8,7 @@
 #include "Compare.h"
 #include "Plain.h"
 #include "WindowForm.h"
+#include "form/Catalogue.h"
 #include "window/ListBox.h"
 
 namespace {

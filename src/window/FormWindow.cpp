@@ -223,11 +223,20 @@ void FormWindow::FitToScreen() {
     if (place) {
         const QSize whole = size().grownBy(frame);
         const QPoint last = room.bottomRight() - QRect(QPoint(), whole).bottomRight();
-        move(std::max(room.left(), std::min(place->x(), last.x())),
-             std::max(room.top(), std::min(place->y(), last.y())));
+        PutFrame({std::max(room.left(), std::min(place->x(), last.x())),
+                  std::max(room.top(), std::min(place->y(), last.y()))});
     }
     connect(screen(), &QScreen::availableGeometryChanged, this, &FormWindow::FitToNewScreen,
             Qt::UniqueConnection);
+}
+
+// The widget itself can still reckon with a frame of no size when the window knows better.
+void FormWindow::PutFrame(const QPoint& corner) {
+    if (frame.isNull()) {
+        move(corner);
+    } else {
+        windowHandle()->setPosition(corner + QPoint(frame.left(), frame.top()));
+    }
 }
 
 // A window that has the right size already stays where the user has put it.
@@ -243,12 +252,15 @@ void FormWindow::FitToNewScreen() {
 // The place was computed for a form without a frame; its middle is to stay where it is.
 void FormWindow::CountFrame() {
     const QMargins now = isVisible() ? windowHandle()->frameMargins() : QMargins();
-    if (frame.isNull() && !now.isNull()) {
-        frame = now;
-        if (place) {
-            *place -= QPoint(now.left() + now.right(), now.top() + now.bottom()) / 2;
-        }
+    if (now.isNull() || now == frame) {
+        return;
+    }
+    const bool first = std::exchange(frame, now).isNull();
+    if (first && place) {
+        *place -= QPoint(now.left() + now.right(), now.top() + now.bottom()) / 2;
         FitToScreen();
+    } else {
+        FitToNewScreen();
     }
 }
 

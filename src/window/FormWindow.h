@@ -54,6 +54,7 @@ private:
     View& FocusHeir() const;
     void FitToScreen();
     void FitToNewScreen();
+    void PutFrame(const QPoint& corner);
     void CountFrame();
 
     View* Find(std::string_view name) const;
