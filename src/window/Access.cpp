@@ -118,6 +118,9 @@ QAccessibleInterface* NewAccess(const QString& kind, QObject* object) {
     if (kind == "QTextEdit") {
         return new DocumentAccess(*qobject_cast<QTextEdit*>(object));
     }
+    if (kind == "Notice") {
+        return new QAccessibleWidget(qobject_cast<QWidget*>(object), QAccessible::Notification);
+    }
     if (kind == "FormWindow" || kind == "HelpFrame") {
         return new QAccessibleWidget(qobject_cast<QWidget*>(object), QAccessible::Window);
     }

@@ -6,8 +6,8 @@ class QLabel;
 class QString;
 class QWidget;
 
-/// Makes lists, options, documents and windows known as what they are. Has to come before they are
-/// shown.
+/// Makes lists, options, documents, notices and windows known as what they are. Has to come before
+/// they are shown.
 void DescribeWidgets();
 
 /// Names a widget by a caption, without the colon and the blanks at its end. A screen reader hears

@@ -3,7 +3,6 @@
 #include <QAbstractTextDocumentLayout>
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QLabel>
 #include <QLineEdit>
 #include <QResizeEvent>
 #include <QScrollBar>
@@ -65,7 +64,7 @@ QSize InCharacters(const QFontMetrics& metrics, int width, int lines) {
 
 HelpFrame::HelpFrame()
     : word(new QLineEdit(this)),
-      result(new QLabel(this)),
+      result(new Notice(this)),
       parts(new QSplitter(this)),
       headings(NewHeadings(parts)),
       page(NewPage(parts)) {
@@ -105,7 +104,8 @@ QLayout* HelpFrame::FindRow() {
     row->addWidget(word);
     row->addWidget(previous);
     row->addWidget(next);
-    row->addWidget(result, 1);
+    row->addWidget(result);
+    row->addStretch(1);
     setTabOrder(word, previous);
     setTabOrder(previous, next);
     setTabOrder(next, headings);
@@ -229,10 +229,9 @@ bool HelpFrame::FindFrom(const QTextCursor& start, Direction direction) {
     return !found.isNull();
 }
 
-// A screen reader reads a description that changes.
 void HelpFrame::Report(const QString& text) {
-    if (result->text() != text) {
-        result->setText(text);
-        word->setAccessibleDescription(text);
-    }
+    result->hide();  // also one that comes up again is said
+    result->setText(text);
+    result->setAccessibleName(text);
+    result->setVisible(!text.isEmpty());
 }

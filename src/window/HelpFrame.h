@@ -2,15 +2,23 @@
 // Where the text comes from is in HelpText.
 #pragma once
 
+#include <QLabel>
 #include <QTextDocument>
 #include <QWidget>
 #include <memory>
 
-class QLabel;
 class QLineEdit;
 class QSplitter;
 class QTextEdit;
 class QTreeWidget;
+
+/// A text that a screen reader says as soon as it comes up.
+class Notice : public QLabel {
+    Q_OBJECT
+
+public:
+    using QLabel::QLabel;
+};
 
 class HelpFrame : public QWidget {
     Q_OBJECT
@@ -47,7 +55,7 @@ private:
 
     std::unique_ptr<QTextDocument> document;
     QLineEdit* const word;
-    QLabel* const result;
+    Notice* const result;
     QSplitter* const parts;
     QTreeWidget* const headings;
     QTextEdit* const page;
