@@ -48,12 +48,12 @@ QIcon FormIcon() {
 
 FormWindow::FormWindow(RecordEdit& ownForm)
     : form(ownForm), area(new FormArea(this)), limits(new SizeLimits(*this)) {
+    DescribeWidgets();
     setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                    Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);
     setWindowTitle(ToScreen(FormCaption));
 
     area->Page()->setPalette(ReadableWhenGreyed(palette()));
-    DescribeWidgets();
     KeepLabelsPlain(*this);
     MakeViews();
     scale = FittingScale(views, form);
