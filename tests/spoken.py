@@ -89,6 +89,7 @@ for news in (pyatspi.ROLE_TEXT, "Burst Frequency"), \
         (pyatspi.ROLE_ALERT, "TephrexEdit"):
     soon(True, lambda: news in heard)
 subprocess.run(["xdotool", "key", "Return"], check=True)
+soon([True], lambda: states(pyatspi.STATE_FOCUSED, "Strength"))  # before that a key can get lost
 
 # The help is a document in a window of its own; what is found in it is on the caret's line.
 subprocess.run(["xdotool", "key", "F1"], check=True)

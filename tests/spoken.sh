@@ -15,4 +15,5 @@ start_editor "$1" "$PWD/data/"
 press Open
 answer_dialog "Open Record File" "$PWD/data/TephrexDemo.rec"
 /usr/bin/python3 tests/spoken.py || fail "not all is heard"
+await_gone "TephrexEdit Help"
 close_editor
