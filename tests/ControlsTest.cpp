@@ -98,9 +98,13 @@ TEST_F(ControlsTest, CodePassesClosedDoorsAndASetterThatChangesNothingRaisesNoth
     EXPECT_EQ(form.cmbFlow.Text() + form.cmbFlow.Entries().at(0), "yy");
     form.cmbFlow.SetText("");
     box.SetText("");
+    form.cmbFlow.RemoveItem(0);  // the last one
+    form.cmbFlow.AddItem("z");
     form.cmbFlow.Clear();  // of entries alone
     form.cmbFlow.Clear();
-    EXPECT_EQ(log, "[cmbFlow1][added]Change[cmbFlow2][removed]Change[cmbFlow1][]Change[cmbFlow0]");
+    EXPECT_EQ(log,
+              "[cmbFlow1][added]Change[cmbFlow2][removed]Change[cmbFlow1][]Change[cmbFlow0]"
+              "[cmbFlow1][cmbFlow0]");
     EXPECT_EQ(form.cmbFlow.Text(), "");
 }
 

@@ -1,4 +1,6 @@
 // Disks that fail at any call and behind any byte, and files and names of the odder kind.
+#include <dlfcn.h>
+#include <fcntl.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -6,6 +8,18 @@
 #include <csignal>
 
 #include "TestForm.h"
+
+namespace {
+
+bool closingFails = false;  // the next time
+
+}  // namespace
+
+extern "C" int fclose(FILE* file) {
+    static const auto close = reinterpret_cast<int (*)(FILE*)>(dlsym(RTLD_NEXT, "fclose"));
+    const int result = close(file);
+    return std::exchange(closingFails, false) ? EOF : result;
+}
 
 namespace {
 
@@ -114,6 +128,21 @@ TEST_F(DiskFaultsTest, ASaveIsDoneWhenTheWholeFileIsOnItsDevice) {
         EXPECT_EQ(Saves(copy), reaches);
         EXPECT_EQ(platform.messages.size(), 1U) << "Recorder file save error";
     }
+}
+
+TEST_F(DiskFaultsTest, AFileThatCannotBeClosedIsNotSaved) {
+    closingFails = true;
+    EXPECT_FALSE(Saves(copy));
+    EXPECT_TRUE(Saves(copy));
+}
+
+TEST_F(DiskFaultsTest, ATerminalIsNoRecordWhateverItSays) {
+    const int terminal = posix_openpt(O_RDWR | O_NOCTTY);
+    ASSERT_TRUE(grantpt(terminal) == 0 && unlockpt(terminal) == 0);
+    const std::string record = "a,b\nc,0,20\n";
+    ASSERT_EQ(write(terminal, record.data(), record.size()), ssize_t(record.size()));
+    EXPECT_FALSE(Opens(ptsname(terminal)));
+    close(terminal);
 }
 
 TEST_F(DiskFaultsTest, WhatIsNoReadableFileIsLeftAtOnce) {

@@ -77,6 +77,10 @@ TEST_F(RecordTest, AnItemOrAReferenceHasAtMost65535Bytes) {
     EXPECT_TRUE(WriteRecordFile("/dev/null", *this));
     StratFile += 'x';
     EXPECT_FALSE(WriteRecordFile("/dev/null", *this));
+    const std::string blanks(65535, ' ');
+    EXPECT_TRUE(Read("a," + blanks + "\"b\"" + blanks + "\nc,0,4"));
+    EXPECT_FALSE(Read("a, " + blanks + "b\nc,0,4"));
+    EXPECT_FALSE(Read("a,\"b\" " + blanks + "\nc,0,4"));
 }
 
 TEST_F(RecordTest, AFileThatEndsEarlyIsKeptAsFarAsItCame) {
