@@ -163,6 +163,10 @@ bool FormWindow::event(QEvent* event) {
     if (event->type() == QEvent::Move || event->type() == QEvent::WindowActivate) {
         CountFrame();
     }
+    if (event->type() == QEvent::WindowUnblocked) {
+        // When two dialogs go at once, some window managers give the keys to nobody.
+        QMetaObject::invokeMethod(this, &FormWindow::TakeKeysBack, Qt::QueuedConnection);
+    }
     return QWidget::event(event);
 }
 
@@ -174,6 +178,12 @@ void FormWindow::changeEvent(QEvent* event) {
 }
 
 void FormWindow::resizeEvent(QResizeEvent* /*event*/) { area->setGeometry(rect()); }
+
+void FormWindow::TakeKeysBack() {
+    if (QApplication::activeModalWidget() == nullptr) {
+        activateWindow();
+    }
+}
 
 void FormWindow::closeEvent(QCloseEvent* event) {
     const Mirror::UserAction action(mirror);

@@ -51,6 +51,7 @@ private:
     void ChainTabs();
     void NameViews();
     void FollowFocus(QWidget* now);
+    void TakeKeysBack();
     View& FocusHeir() const;
     void FitToScreen();
     void FitToNewScreen();

@@ -121,6 +121,59 @@ TEST_F(FilesTest, AReferenceKeepsItsControlCharactersWhileItIsEdited) {
     EXPECT_EQ(box->text(), shown + "x");
 }
 
+TEST_F(FilesTest, ADialogShowsItsListWholeAndEntersTheFolderSelectedInIt) {
+    std::filesystem::create_directories(folder / "<b>fol\nder");
+    WriteBytes(folder / (std::string(30, 'n') + ".rec"), "");
+    QTimer::singleShot(0, &window, [] {
+        auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        dialog->resize(900, 500);
+        QAbstractItemView* const list = dialog->findChild<QTreeView*>();
+        const auto* const header = dialog->findChild<QHeaderView*>();
+        EXPECT_TRUE(QTest::qWaitFor([=] {
+            QList<int> cut;
+            for (int i = 0; i < header->count(); ++i) {
+                if (header->sectionSize(i) < list->sizeHintForColumn(i)) cut += i;
+            }
+            return list->model()->rowCount(list->rootIndex()) == 3 && cut.isEmpty();
+        }));
+        const QModelIndex any = list->model()->index(0, 0, list->rootIndex());
+        const QModelIndex inner = list->model()->match(any, Qt::DisplayRole, "<b>fol").value(0);
+        mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(inner).center());
+        mouseClick(dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open),
+                   Qt::LeftButton);
+        const QString path = dialog->findChild<QComboBox*>("lookInCombo")->currentText();
+        EXPECT_EQ(WithoutStandIns(path), dialog->directory().path());
+        EXPECT_TRUE(path.contains("<b>fol") && !path.contains('\n')) << path.toStdString();
+        QToolTip::showText({}, path);
+        for (const QWidget* tip : QApplication::topLevelWidgets()) {
+            if (auto* const label = qobject_cast<const QLabel*>(tip)) {
+                EXPECT_EQ(label->textFormat(), Qt::PlainText);
+            }
+        }
+        dialog->close();
+    });
+    form.CD1.InitDir = folder / "";
+    form.CD1.FileName.clear();
+    EXPECT_FALSE(chooser.AskOpen(form.CD1));
+}
+
+TEST_F(FilesTest, AfterADialogAllIsAsItWasAndTheFormHasTheKeys) {
+    auto* const box = Find<QLineEdit>("txtWind");
+    WriteBytes(folder / "there.rec", "");
+    box->setFocus();
+    box->setSelection(1, 1);
+    int events = 0;
+    form.txtWind.GotFocus = form.txtWind.Change = form.txtWind.KeyPress = [&] { ++events; };
+    for (int round = 0; round < 3; ++round) {
+        EXPECT_NE(Choose(false, folder / "there.rec"), "");
+        EXPECT_NE(question, "");
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+        EXPECT_EQ(QApplication::focusWidget(), box);
+        EXPECT_EQ(box->selectedText(), "0");
+        EXPECT_EQ(events, 0);
+    }
+}
+
 // Runs as a user to whom a folder can be closed.
 class NoRoot {
 public:
