@@ -104,9 +104,12 @@ void Compare(benchmark::State& state, Goal goal, const Turn& reference, const Tu
         // What is prepared before a work counts for the length of the run, but for nothing else.
         state.SetIterationTime(std::chrono::duration<double>(Clock::now() - start).count());
     }
-    state.counters["reference"] = Median(references);
-    state.counters["ours"] = Median(own);
-    state.counters["result"] = Median(results);
+    const auto typical = [&goal](const std::vector<double>& values) {
+        return goal.best ? *std::min_element(values.begin(), values.end()) : Median(values);
+    };
+    state.counters["reference"] = typical(references);
+    state.counters["ours"] = typical(own);
+    state.counters["result"] = goal.best ? typical(own) / typical(references) : Median(results);
     state.counters["memory"] = memory ? 1 : 0;
     state.counters["most"] = goal.most;
     state.counters["least"] = goal.least;

@@ -22,6 +22,7 @@ struct Goal {
     double most;
     double least = 0;
     Unit unit = Unit::Seconds;
+    bool best = false;  // the ratio of the best of all turns, where some wait for others' work
 };
 
 /// Takes turns until the benchmark has run long enough; medians go into its counters.

@@ -1,22 +1,12 @@
-// Programs run from outside: how long until the screen stands still, and what a run has cost.
+// Programs run from outside: how long until the screen stands still.
 #pragma once
 
 #include <xcb/xcb.h>
 
 #include <chrono>
 #include <optional>
-#include <string>
-#include <vector>
 
-using Command = std::vector<std::string>;
-
-struct Usage {
-    double processorSeconds;
-    double peakMegabytes;  // of resident memory
-};
-
-/// Runs a program until it ends by itself. Throws if it fails.
-Usage RunToEnd(const Command& command);
+#include "Programs.h"
 
 /// The X display that the environment names.
 class Screen {

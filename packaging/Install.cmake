@@ -33,6 +33,10 @@ file(CREATE_LINK ${from_bin} ${PROJECT_BINARY_DIR}/installed/bin/tephrexedit SYM
 install(FILES ${PROJECT_BINARY_DIR}/installed/bin/tephrexedit
   DESTINATION ${CMAKE_INSTALL_BINDIR})
 
+if(TARGET tephrexcheck)
+  install_program(tephrexcheck ${CMAKE_INSTALL_BINDIR})
+endif()
+
 install(FILES data/TephrexDemo.rec DESTINATION ${CMAKE_INSTALL_DATADIR}/tephrexedit)
 install(FILES data/desktop/tephrexedit.desktop
   DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)

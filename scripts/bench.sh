@@ -3,10 +3,10 @@
 # table. scripts/bench.sh --once takes each figure once, to see that the benchmarks still work.
 . "$(dirname "$0")/lib.sh"
 
-core=2 window=5 start=40 # seconds for each figure; programs take longer to start than to work
+core=2 check=30 window=5 start=40 # seconds for each figure; programs take longer to start than to work
 verdict=1
 if [ "${1:-}" = --once ]; then
-    core=0 window=0 start=0 verdict=0 # a single turn says nothing about a goal
+    core=0 check=0 window=0 start=0 verdict=0 # a single turn says nothing about a goal
 fi
 
 install_missing "${build_packages[@]}" libbenchmark-dev libxcb-damage0-dev xvfb xauth \
@@ -30,6 +30,7 @@ figures=build/bench/figures.txt
 bench=build/bench/bench
 {
     "$bench/core_bench" --benchmark_min_time=$core || failed=1
+    "$bench/check_bench" --benchmark_min_time=$check || failed=1
     QT_QPA_PLATFORM=offscreen "$bench/window_bench" --benchmark_min_time=$window || failed=1
     xvfb-run -a -s "-screen 0 1600x1200x24 -noreset" \
         "$bench/start_bench" --benchmark_min_time=$start || failed=1

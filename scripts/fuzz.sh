@@ -6,7 +6,7 @@
 
 seconds=${1:-30}
 build=build/fuzz
-install_missing clang libclang-rt-dev cmake make libgtest-dev
+install_missing clang libclang-rt-dev cmake make libgtest-dev libcli11-dev nlohmann-json3-dev
 cmake -S . -B "$build" -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_BUILD_TYPE=RelWithDebInfo \
     -DTEPHREX_WERROR=ON -DTEPHREX_FUZZ=ON -DBUILD_TESTING=OFF \
     -DCMAKE_DISABLE_FIND_PACKAGE_Qt6=ON >/dev/null
@@ -37,4 +37,5 @@ failed=0
 fuzz Reader 4096 || failed=1
 fuzz Numbers 80 || failed=1
 fuzz Form 1024 || failed=1
+fuzz Check 4096 || failed=1
 exit "$failed"

@@ -47,6 +47,7 @@ as_root dpkg -i "$package"
 program=$(readlink -f /usr/bin/tephrexedit)
 [ -f "${program%/*}/Tephrex3.hlp" ] || give_up "the help file is not beside $program"
 [ -f /usr/share/mime/application/x-tephrex-record.xml ] || give_up "records have no type"
+tephrexcheck --strict /usr/share/tephrexedit || give_up "the demonstration record is not faultless"
 
 # A new user has no settings: the system-wide ones name the folder of the demonstration record.
 start_editor tephrexedit

@@ -51,7 +51,10 @@ Limits LongEnough(const Judged& j) { return {ShortestFlow(j.phase.eruptionType),
 Limits ShortEnough(const Judged& j) {
     const double longest = LongestFlow(j.phase, j.badFlow->flow);
     const auto last = static_cast<Single>(longest);  // which can lie on either side of it
-    return {{}, static_cast<double>(last) > longest ? std::nextafter(last, 0.0F) : last};
+    return {{},
+            static_cast<double>(last) > longest
+                ? std::nextafter(last, -std::numeric_limits<Single>::max())
+                : last};
 }
 
 }  // namespace
