@@ -33,9 +33,11 @@ file(CREATE_LINK ${from_bin} ${PROJECT_BINARY_DIR}/installed/bin/tephrexedit SYM
 install(FILES ${PROJECT_BINARY_DIR}/installed/bin/tephrexedit
   DESTINATION ${CMAKE_INSTALL_BINDIR})
 
-if(TARGET tephrexcheck)
-  install_program(tephrexcheck ${CMAKE_INSTALL_BINDIR})
-endif()
+foreach(program IN ITEMS tephrexcheck tephrexdraw)
+  if(TARGET ${program})
+    install_program(${program} ${CMAKE_INSTALL_BINDIR})
+  endif()
+endforeach()
 
 install(FILES data/TephrexDemo.rec DESTINATION ${CMAKE_INSTALL_DATADIR}/tephrexedit)
 install(FILES data/desktop/tephrexedit.desktop

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # pictures.sh PROGRAM: makes the pictures of the README again, from the running program with the
-# demonstration record.
+# demonstration record, and from tephrexdraw, which is beside it.
 . "$(dirname "$0")/lib.sh"
 
 install_missing "${screen_packages[@]}"
@@ -38,3 +38,6 @@ shot message "$(window_named "^TephrexEdit$" | tail -n 1)"
 keys Return
 await_gone "^TephrexEdit$"
 close_editor
+
+"${1%/*}/tephrexdraw" --dpi 144 -o docs/history.png data/TephrexDemo.rec
+echo docs/history.png

@@ -8,9 +8,6 @@ namespace LimitTests {
 
 namespace {
 
-constexpr double MapStart = 50;
-constexpr double MapEnd = 1230;
-
 double MapPosition(Single location, double factor) {
     return factor * static_cast<double>(location);
 }

@@ -46,7 +46,7 @@ struct Ceiling {
 template <auto Field, int Limit>
 constexpr Test Above{Ceiling<Field, Limit>::Fails, &FieldOf(Field), Ceiling<Field, Limit>::Passing};
 
-// The map: 50 to 1230, both ends included.
+// `factor` is the MapFactor of the record.
 bool IsBeforeMap(Single location, double factor);
 bool IsAfterMap(Single location, double factor);
 Limits OnMap(const Judged& judged);

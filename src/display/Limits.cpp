@@ -122,7 +122,7 @@ Judged Judging(const PhaseRecord& phase, const FlowRow& flows, Integer recordSca
     if (recordScale == 0) {
         throw std::domain_error("Division by zero");
     }
-    return {phase, flows, 1000.0 / recordScale, 1, phase.burstCount};
+    return {phase, flows, MapFactor(recordScale), 1, phase.burstCount};
 }
 
 Fault FaultOf(const Check& check, const Judged& judged) {

@@ -1,0 +1,83 @@
+// What a picture is made of: shapes and texts with their places on pages, and nothing of the device
+// that they are painted on. All lengths are millimetres, from the top left corner of the page.
+#pragma once
+
+#include <QPainterPath>
+#include <QRectF>
+#include <QRgb>
+#include <QSizeF>
+#include <QString>
+#include <vector>
+
+/// What a shape is the drawing of.
+enum class Mark {
+    Frame,  // axes and rules
+    Sign,
+    OffMap,
+    Wind,
+    Flows,
+    Caldera,
+    Diatreme,
+    Blast,
+    Bursts,
+    FaultLine,
+    Throw,
+    Ground,  // on both sides of a fault
+    Scarp,
+    Erosion,
+    Refused,
+};
+
+struct Style {
+    QRgb line = 0;  // transparent for none
+    double width = 0;
+    QRgb fill = 0;  // transparent for none
+};
+
+struct Shape {
+    Mark mark;
+    QPainterPath path;
+    Style style;
+};
+
+enum class Anchor { Left, Middle, Right };
+
+struct Text {
+    QString text;
+    QPointF at;  // on the base line; which point of it says the anchor
+    Anchor anchor;
+    double size;  // of the font
+    bool bold;
+    QRgb colour;
+    QRectF room;  // what the text covers
+};
+
+/// What belongs together: a phase, or the head, axis or legend of a page.
+struct Group {
+    int phase = 0;  // 0 for what belongs to none
+    QString title;  // of a phase, for screen readers
+    std::vector<Shape> shapes;
+    std::vector<Text> texts;  // above the shapes
+};
+
+/// Moves a group down the page.
+inline void MoveDown(Group& group, double distance) {
+    for (Shape& shape : group.shapes) {
+        shape.path.translate(0, distance);
+    }
+    for (Text& text : group.texts) {
+        text.at.ry() += distance;
+        text.room.translate(0, distance);
+    }
+}
+
+struct Page {
+    QSizeF size;
+    std::vector<Group> groups;
+};
+
+struct Drawing {
+    QString title;
+    QString description;
+    std::vector<Page> pages;
+};

@@ -1,0 +1,89 @@
+#include "draw/Head.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr Letters Heading{3.4, true};
+constexpr double HeadGap = 3;
+
+QString ScaleName(Integer scale) {
+    switch (scale) {
+        case Scale::Large: return "scale 100 (large)";
+        case Scale::Normal: return "scale 20 (normal)";
+        case Scale::Small: return "scale 4 (small)";
+        case Scale::NotSet: return "scale not set, drawn as 20";
+        default: return "scale " + Label(scale);
+    }
+}
+
+// A name is measured in full length only if it has a chance to fit.
+QString Shortened(const QString& text) {
+    constexpr qsizetype most = 1000;
+    return text.size() <= most ? text : text.left(most / 2) + text.right(most / 2);
+}
+
+// A line of texts that begins or ends at x. Returns its lower edge: letters of some scripts are
+// taller than the line, and what is next has to keep clear of them.
+struct Piece {
+    QString text;
+    double x;
+    Anchor anchor;
+    Letters letters;
+};
+
+double AddLine(const std::vector<Piece>& pieces, double top, double height, Group& group,
+               Lettering& lettering) {
+    double above = height * 0.75;
+    for (const Piece& piece : pieces) {
+        const Text text = lettering.Put(piece.text, {}, piece.anchor, piece.letters);
+        above = std::max(above, -text.room.top());
+    }
+    double bottom = top + above + height * 0.25;
+    for (const Piece& piece : pieces) {
+        group.texts.push_back(
+            lettering.Put(piece.text, {piece.x, top + above}, piece.anchor, piece.letters));
+        bottom = std::max(bottom, group.texts.back().room.bottom());
+    }
+    return bottom;
+}
+
+}  // namespace
+
+QString ReferenceOf(const EditorState& record) {
+    return record.StratFile == NoFileText ? QString() : Readable(record.StratFile);
+}
+
+QString SummaryOf(const EditorState& record) {
+    const int phases = record.LoadedPhaseCount;
+    return (phases == 1 ? "1 phase, " : Label(phases) + " phases, ") +
+           ScaleName(record.RecordScale) +
+           (ReferenceOf(record).isEmpty() ? ", no stratigraphic file" : ", stratigraphic file ");
+}
+
+Head HeadOf(const EditorState& record, const QString& name, PageNumber page, const Columns& columns,
+            Lettering& lettering) {
+    constexpr double left = Sheet::Margin;
+    constexpr double gap = 3;
+    const double right = columns.End();
+    const Letters& letters = page.number == 1 ? Heading : Sheet::Plain;
+    std::vector<Piece> line;
+    double room = right - left;
+    if (page.pages > 1) {
+        const QString label = "page " + Label(page.number) + " of " + Label(page.pages);
+        line.push_back({label, right, Anchor::Right, Sheet::Quiet});
+        room -= lettering.Width(label, Sheet::Quiet) + gap;
+    }
+    line.push_back({lettering.Elided(Shortened(name), Qt::ElideMiddle, room, letters), left,
+                    Anchor::Left, letters});
+    Head head;
+    head.bottom = AddLine(line, Sheet::Margin, letters.size * 1.3, head.group, lettering);
+    if (page.number == 1) {
+        const QString summary = lettering.Elided(SummaryOf(record) + Shortened(ReferenceOf(record)),
+                                                 Qt::ElideMiddle, right - left, Sheet::Plain);
+        head.bottom = AddLine({{summary, left, Anchor::Left, Sheet::Plain}}, head.bottom,
+                              Sheet::Plain.size * 1.5, head.group, lettering);
+    }
+    head.bottom += HeadGap;
+    return head;
+}

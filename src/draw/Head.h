@@ -1,0 +1,25 @@
+// The head of a page: the name of the file, and on the first page what there is to say of the whole
+// record.
+#pragma once
+
+#include "draw/Columns.h"
+
+/// Number of phases, scale, and whether there is a reference, as one text.
+QString SummaryOf(const EditorState& record);
+
+/// The reference of a record; empty if it has none.
+QString ReferenceOf(const EditorState& record);
+
+struct PageNumber {
+    int number;
+    int pages;
+};
+
+struct Head {
+    Group group;
+    double bottom = 0;
+};
+
+/// The head of a page. Names are cut to the width of the page.
+Head HeadOf(const EditorState& record, const QString& name, PageNumber page, const Columns& columns,
+            Lettering& lettering);

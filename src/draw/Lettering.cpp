@@ -1,0 +1,98 @@
+#include "draw/Lettering.h"
+
+#include <QStringDecoder>
+#include <QTextLayout>
+#include <algorithm>
+
+namespace {
+
+bool NeedsStandIn(QChar character) {
+    const char16_t code = character.unicode();
+    return character.category() == QChar::Other_Control || (code >= 0x2028 && code <= 0x202E) ||
+           (code >= 0x2066 && code <= 0x2069) || code >= 0xFFFE;
+}
+
+QString Decoded(std::string_view bytes) {
+    const QByteArrayView view(bytes.data(), static_cast<qsizetype>(bytes.size()));
+    if (QUtf8StringView(view.data(), view.size()).isValidUtf8()) {
+        return QString::fromUtf8(view);
+    }
+    QStringDecoder windows("windows-1252");
+    return windows.isValid() ? QString(windows(view)) : QString::fromLatin1(view);
+}
+
+QTextOption OfFont() {
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    return option;
+}
+
+}  // namespace
+
+QFont MeasuredFont(bool bold) {
+    QFont font;
+    font.setFamilies(QString(FontFamilies).split(", "));
+    font.setPixelSize(MeasuredSize);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    font.setBold(bold);
+    return font;
+}
+
+Lettering::Lettering()
+    : regular{MeasuredFont(false), QFontMetricsF(MeasuredFont(false)), {}},
+      bold{MeasuredFont(true), QFontMetricsF(MeasuredFont(true)), {}} {}
+
+const Lettering::Extent& Lettering::Measure(const QString& text, const Letters& letters) {
+    Face& face = FaceOf(letters);
+    auto found = face.known.find(text);
+    if (found == face.known.end()) {
+        found = face.known.insert(
+            text, {face.metrics.horizontalAdvance(text), face.metrics.tightBoundingRect(text)});
+    }
+    return *found;
+}
+
+double Lettering::Width(const QString& text, const Letters& letters) {
+    return Measure(text, letters).advance * letters.size / MeasuredSize * RoomForOtherFonts;
+}
+
+Text Lettering::Put(const QString& text, QPointF at, Anchor anchor, const Letters& letters) {
+    const Extent& extent = Measure(text, letters);
+    const double scale = letters.size / MeasuredSize;
+    const double width = std::max(extent.advance, extent.bounds.width()) * scale;
+    const double left = anchor == Anchor::Left ? 0 : anchor == Anchor::Right ? width : width / 2;
+    const QRectF room(at.x() - left, at.y() + extent.bounds.top() * scale, width,
+                      extent.bounds.height() * scale);
+    return {text, at, anchor, letters.size, letters.bold, letters.colour, room};
+}
+
+QString Lettering::Elided(const QString& text, Qt::TextElideMode mode, double width,
+                          const Letters& letters) {
+    const double measured = width / RoomForOtherFonts * MeasuredSize / letters.size;
+    return FaceOf(letters).metrics.elidedText(text, mode, measured);
+}
+
+QStringList Lettering::Wrapped(const QString& text, double width, const Letters& letters) {
+    QTextLayout layout(text, FaceOf(letters).font);
+    layout.setTextOption(OfFont());
+    layout.beginLayout();
+    QStringList lines;
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(width / RoomForOtherFonts * MeasuredSize / letters.size);
+        lines += text.mid(line.textStart(), line.textLength()).trimmed();
+    }
+    layout.endLayout();
+    return lines;
+}
+
+QString Readable(std::string_view bytes) {
+    QString text = Decoded(bytes);
+    std::replace_if(text.begin(), text.end(), NeedsStandIn, QChar(QChar::ReplacementCharacter));
+    return text;
+}
+
+QString Label(double number, bool sign) {
+    constexpr int digits = 5;
+    const QString plain = QString::number(number, 'g', digits).replace(u'-', u'\u2212');
+    return sign && number > 0 ? u'+' + plain : plain;
+}

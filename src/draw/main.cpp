@@ -1,0 +1,78 @@
+// tephrexdraw: a record as one picture.
+
+#include <QBuffer>
+#include <QGuiApplication>
+#include <QHashFunctions>
+#include <csignal>
+#include <filesystem>
+#include <iostream>
+#include <memory>
+
+#include "draw/Layout.h"
+#include "draw/Options.h"
+#include "draw/Output.h"
+#include "draw/Paint.h"
+#include "draw/Svg.h"
+#include "record/RecordFile.h"
+
+namespace {
+
+constexpr int Failed = 2;
+
+// The toolkit's own remarks, on settings of a desktop that takes no part here, are not for the
+// user.
+void SayOnlyErrors(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message) {
+    if (type == QtCriticalMsg || type == QtFatalMsg) {
+        std::cerr << "tephrexdraw: " << message.toStdString() << '\n';
+    }
+}
+
+QByteArray PictureOf(const EditorState& record, const Options& options) {
+    constexpr double anyHeight = 1e9;
+    constexpr double paper = 1.4142135623730951;  // of the A sizes
+    const std::string name = std::filesystem::path(options.record).filename().string();
+    const bool paged = options.format == Format::Pdf;
+    const Drawing drawing =
+        DrawRecord(record, name, {options.width, paged ? options.width * paper : anyHeight});
+    switch (options.format) {
+        case Format::Svg: return SvgOf(drawing);
+        case Format::Png: return PngOf(drawing, options.dpi);
+        case Format::Pdf: return PdfOf(drawing);
+    }
+    return {};
+}
+
+int Draw(const Options& options) {
+    const auto record = std::make_unique<EditorState>();
+    if (const ReadResult result = ReadRecordFile(options.record, *record); !result) {
+        std::cerr << options.record << ':' << result.failure->line
+                  << ": error: " << result.failure->reason << '\n';
+        return Failed;
+    }
+    WriteWhole(options.output, PictureOf(*record, options));
+    return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    try {
+        std::signal(SIGPIPE, SIG_IGN);  // a closed pipe is a write that fails
+        // No display takes part, whatever the environment names.
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        qunsetenv("QT_QPA_PLATFORMTHEME");
+        qInstallMessageHandler(SayOnlyErrors);
+        QHashSeed::setDeterministicGlobalSeed();  // decides the order of the fonts in a PDF
+        int programOnly = 1;                      // the options are not the toolkit's
+        const QGuiApplication application(programOnly, argv);
+        const Options options = OptionsOf(argc, argv);
+        if (options.answer.empty()) {
+            return Draw(options);
+        }
+        std::cout << options.answer << std::flush;
+        return std::cout ? 0 : Failed;
+    } catch (const std::exception& error) {
+        std::cerr << "tephrexdraw: " << error.what() << '\n';
+        return Failed;
+    }
+}

@@ -1,0 +1,63 @@
+#!/usr/bin/env bash
+# draw.sh PROGRAM DATA: runs tephrexdraw on the demonstration record as a user would, without a
+# display.
+draw=$(realpath "$1")
+record=$(realpath "$2")/TephrexDemo.rec
+set -euo pipefail
+folder=$(mktemp -d)
+trap 'rm -rf "$folder"' EXIT
+cd "$folder"
+unset DISPLAY WAYLAND_DISPLAY
+export QT_QPA_PLATFORM=xcb QT_SCALE_FACTOR=2 QT_FONT_DPI=150
+
+give_up() {
+    echo "draw: $*" >&2
+    exit 1
+}
+
+# Each kind of file is whole, says nothing, and comes out the same again.
+for kind in svg png pdf; do
+    for run in 1 2; do
+        "$draw" "$record" -o "$run.$kind" >said 2>&1 || give_up "$kind: status $?"
+        [ ! -s said ] || give_up "$kind says $(cat said)"
+        grep -av -e CreationDate -e CreateDate -e ModifyDate -e MetadataDate -e ID -e uuid "$run.$kind" >"$run"
+    done
+    cmp 1 2 || give_up "another $kind"
+done
+"$draw" "$record" | cmp - 1.svg || give_up "standard output has another picture"
+case $(head -c 24 1.png | od -An -tx1 | tr -d ' \n') in
+    *0000058a0000*) ;;
+    *) give_up "a PNG of 180 mm at 200 dpi is 1418 pixels wide" ;;
+esac
+
+# refused LINE ARGUMENT...: status 2, that one line, and nothing new in the folder.
+refused() {
+    local line=$1 status=0
+    shift
+    ls -A >before
+    "$draw" "$@" >out 2>said || status=$?
+    [ "$status" = 2 ] || give_up "$*: status $status"
+    [ "$(wc -l <said)" = 1 ] && grep -q -- "$line" said || give_up "$*: $(cat said)"
+    [ ! -s out ] || give_up "$*: something on standard output"
+    ls -A | diff before - || give_up "$*: a file is left"
+}
+touch out said before
+head -c 300 "$record" >cut.rec
+echo old >old.png
+mkdir folder.svg
+refused "cut.rec:[0-9]*: error: the file ends" cut.rec -o new.svg
+refused "none.rec.*error: No such file" none.rec -o new.svg
+refused "missing/new.svg" "$record" -o missing/new.svg
+refused "try a smaller --dpi" "$record" -o old.png --dpi 2400 --width 1000
+[ "$(cat old.png)" = old ] || give_up "a picture that failed has replaced a file"
+refused "folder.svg: " "$record" -o folder.svg
+refused ".svg, .png or .pdf" "$record" -o new.gif
+refused "from 120 to 2000" "$record" --width 119
+refused "from 10 to 2400" "$record" --dpi nan
+refused "one record"
+refused "colour" "$record" --colour
+[ "$("$draw" --version)" = "tephrexdraw 1.0" ] || give_up "the version"
+"$draw" --help | grep -q -- --width || give_up "the help"
+status=0
+"$draw" "$record" >/dev/full 2>said || status=$?
+[ "$status" = 2 ] && [ "$(wc -l <said)" = 1 ] || give_up "a full device: $(cat said)"
