@@ -8,6 +8,7 @@
 #include <iostream>
 #include <memory>
 
+#include "check/Wording.h"
 #include "draw/Layout.h"
 #include "draw/Options.h"
 #include "draw/Output.h"
@@ -45,8 +46,7 @@ QByteArray PictureOf(const EditorState& record, const Options& options) {
 int Draw(const Options& options) {
     const auto record = std::make_unique<EditorState>();
     if (const ReadResult result = ReadRecordFile(options.record, *record); !result) {
-        std::cerr << options.record << ':' << result.failure->line
-                  << ": error: " << result.failure->reason << '\n';
+        std::cerr << ErrorLine(options.record, *result.failure, record->LoadedPhaseCount) << '\n';
         return Failed;
     }
     WriteWhole(options.output, PictureOf(*record, options));
