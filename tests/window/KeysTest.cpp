@@ -13,7 +13,7 @@ void Hold(QKeyCombination key, const QString& text) {
             QApplication::sendEvent(widget, &event);
         }
     };
-    for (const ulong time : {1, 2, 3}) {
+    for (const ulong time : {1UL, 2UL, 3UL}) {
         send(QEvent::KeyPress, time, time == 2);
         send(QEvent::KeyRelease, time + 1, time == 1);
     }
