@@ -9,7 +9,7 @@ if [ "${1:-}" = --once ]; then
     core=0 check=0 window=0 start=0 verdict=0 # a single turn says nothing about a goal
 fi
 
-install_missing "${build_packages[@]}" libbenchmark-dev libxcb-damage0-dev xvfb xauth \
+install_missing "${build_packages[@]}" libbenchmark-dev libxcb-damage0-dev qt6-svg-dev xvfb xauth \
     fonts-dejavu-core featherpad
 cmake -S . -B build/bench -DCMAKE_BUILD_TYPE=Release -DTEPHREX_BENCH=ON -DBUILD_TESTING=OFF \
     >/dev/null
@@ -32,6 +32,7 @@ bench=build/bench/bench
     "$bench/core_bench" --benchmark_min_time=$core || failed=1
     "$bench/check_bench" --benchmark_min_time=$check || failed=1
     QT_QPA_PLATFORM=offscreen "$bench/window_bench" --benchmark_min_time=$window || failed=1
+    QT_QPA_PLATFORM=offscreen "$bench/draw_bench" --benchmark_min_time=$window || failed=1
     xvfb-run -a -s "-screen 0 1600x1200x24 -noreset" \
         "$bench/start_bench" --benchmark_min_time=$start || failed=1
 } >"$figures"

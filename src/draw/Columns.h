@@ -12,7 +12,7 @@ constexpr double Ground = 2.5;  // above the bottom of a row
 constexpr double MapGap = 4.4;  // on both sides of the map, for a sign at its edge
 constexpr Letters Plain{2.4};
 constexpr Letters Small{2.1};
-constexpr Letters Quiet{2.1, false, 0xFF606060};
+constexpr Letters Quiet{2.1, 0xFF606060};
 constexpr double LineHeight = 2.8;
 constexpr double WidestBar = 1.6;  // of a flow, with its gap
 }  // namespace Sheet

@@ -47,7 +47,6 @@ struct Text {
     QPointF at;  // on the base line; which point of it says the anchor
     Anchor anchor;
     double size;  // of the font
-    bool bold;
     QRgb colour;
     QRectF room;  // what the text covers
 };

@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr Letters Heading{3.4, true};
+constexpr Letters Heading{3.8};
 constexpr double HeadGap = 3;
 
 QString ScaleName(Integer scale) {
@@ -79,9 +79,11 @@ Head HeadOf(const EditorState& record, const QString& name, PageNumber page, con
     Head head;
     head.bottom = AddLine(line, Sheet::Margin, letters.size * 1.3, head.group, lettering);
     if (page.number == 1) {
-        const QString summary = lettering.Elided(SummaryOf(record) + Shortened(ReferenceOf(record)),
-                                                 Qt::ElideMiddle, right - left, Sheet::Plain);
-        head.bottom = AddLine({{summary, left, Anchor::Left, Sheet::Plain}}, head.bottom,
+        const QString summary = SummaryOf(record);
+        const QString file =
+            lettering.Elided(Shortened(ReferenceOf(record)), Qt::ElideLeft,
+                             right - left - lettering.Width(summary, Sheet::Plain), Sheet::Plain);
+        head.bottom = AddLine({{summary + file, left, Anchor::Left, Sheet::Plain}}, head.bottom,
                               Sheet::Plain.size * 1.5, head.group, lettering);
     }
     head.bottom += HeadGap;

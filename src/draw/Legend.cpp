@@ -12,7 +12,7 @@ namespace {
 
 using P = PhaseRecord;
 
-constexpr double SymbolWidth = 14.5;
+constexpr double SymbolWidth = 15.5;
 constexpr double EntryHeight = 6.4;
 constexpr double Foot = 5.2;  // of a sign, below the top of its entry
 

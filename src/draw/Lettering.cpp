@@ -21,6 +21,14 @@ QString Decoded(std::string_view bytes) {
     return windows.isValid() ? QString(windows(view)) : QString::fromLatin1(view);
 }
 
+// These letters and signs are no taller than a line; others have to be looked at, which takes
+// longer.
+bool KeepsToLine(QChar character) {
+    constexpr char16_t minus = 0x2212;
+    const char16_t code = character.unicode();
+    return code < 0x7F || code == u'\u00E9' || code == minus;
+}
+
 QTextOption OfFont() {
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
@@ -29,51 +37,46 @@ QTextOption OfFont() {
 
 }  // namespace
 
-QFont MeasuredFont(bool bold) {
+QFont MeasuredFont() {
     QFont font;
     font.setFamilies(QString(FontFamilies).split(", "));
     font.setPixelSize(MeasuredSize);
     font.setHintingPreference(QFont::PreferNoHinting);
-    font.setBold(bold);
     return font;
 }
 
-Lettering::Lettering()
-    : regular{MeasuredFont(false), QFontMetricsF(MeasuredFont(false)), {}},
-      bold{MeasuredFont(true), QFontMetricsF(MeasuredFont(true)), {}} {}
-
-const Lettering::Extent& Lettering::Measure(const QString& text, const Letters& letters) {
-    Face& face = FaceOf(letters);
-    auto found = face.known.find(text);
-    if (found == face.known.end()) {
-        found = face.known.insert(
-            text, {face.metrics.horizontalAdvance(text), face.metrics.tightBoundingRect(text)});
+const Lettering::Extent& Lettering::Measure(const QString& text) {
+    auto found = known.find(text);
+    if (found == known.end()) {
+        const bool keepsToLine = std::all_of(text.begin(), text.end(), KeepsToLine);
+        found = known.insert(text, {metrics.horizontalAdvance(text),
+                                    keepsToLine ? lineRoom : metrics.tightBoundingRect(text)});
     }
     return *found;
 }
 
 double Lettering::Width(const QString& text, const Letters& letters) {
-    return Measure(text, letters).advance * letters.size / MeasuredSize * RoomForOtherFonts;
+    return Measure(text).advance * letters.size / MeasuredSize * RoomForOtherFonts;
 }
 
 Text Lettering::Put(const QString& text, QPointF at, Anchor anchor, const Letters& letters) {
-    const Extent& extent = Measure(text, letters);
+    const Extent& extent = Measure(text);
     const double scale = letters.size / MeasuredSize;
-    const double width = std::max(extent.advance, extent.bounds.width()) * scale;
+    const double width = extent.advance * scale;
     const double left = anchor == Anchor::Left ? 0 : anchor == Anchor::Right ? width : width / 2;
     const QRectF room(at.x() - left, at.y() + extent.bounds.top() * scale, width,
                       extent.bounds.height() * scale);
-    return {text, at, anchor, letters.size, letters.bold, letters.colour, room};
+    return {text, at, anchor, letters.size, letters.colour, room};
 }
 
 QString Lettering::Elided(const QString& text, Qt::TextElideMode mode, double width,
                           const Letters& letters) {
     const double measured = width / RoomForOtherFonts * MeasuredSize / letters.size;
-    return FaceOf(letters).metrics.elidedText(text, mode, measured);
+    return metrics.elidedText(text, mode, measured);
 }
 
 QStringList Lettering::Wrapped(const QString& text, double width, const Letters& letters) {
-    QTextLayout layout(text, FaceOf(letters).font);
+    QTextLayout layout(text, font);
     layout.setTextOption(OfFont());
     layout.beginLayout();
     QStringList lines;

@@ -1,5 +1,5 @@
-// Texts and their extents. One family in two weights; every size is measured at one size of the
-// font and scaled, so that a picture is the same at each resolution.
+// Texts and their extents. There is one font, for each one more takes its time to be found; every
+// size is measured at one size of it and scaled, so that a picture is the same at each resolution.
 #pragma once
 
 #include <QFont>
@@ -17,19 +17,16 @@ constexpr const char* FontFamilies = "Helvetica, Arial, sans-serif";
 
 /// The font as it is measured and, scaled by size / MeasuredSize, painted.
 constexpr int MeasuredSize = 100;
-QFont MeasuredFont(bool bold);
+QFont MeasuredFont();
 
 struct Letters {
     double size;
-    bool bold = false;
     QRgb colour = 0xFF000000;
 };
 
 /// Needs a QGuiApplication.
 class Lettering {
 public:
-    Lettering();
-
     /// The width, with room for other fonts.
     double Width(const QString& text, const Letters& letters);
 
@@ -48,16 +45,12 @@ private:
         double advance;
         QRectF bounds;
     };
-    struct Face {
-        QFont font;
-        QFontMetricsF metrics;
-        QHash<QString, Extent> known;
-    };
-    Face& FaceOf(const Letters& letters) { return letters.bold ? bold : regular; }
-    const Extent& Measure(const QString& text, const Letters& letters);
+    const Extent& Measure(const QString& text);
 
-    Face regular;
-    Face bold;
+    QFont font = MeasuredFont();
+    QFontMetricsF metrics{font};
+    QRectF lineRoom = metrics.tightBoundingRect("Hgj()");  // what its letters cover above and below
+    QHash<QString, Extent> known;
 };
 
 /// The bytes of a name as a text that can be shown on one line: UTF-8, or Windows-1252 if they are

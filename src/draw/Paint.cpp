@@ -4,6 +4,7 @@
 #include <QImage>
 #include <QPainter>
 #include <QPdfWriter>
+#include <algorithm>
 #include <cmath>
 
 #include "draw/Lettering.h"
@@ -27,7 +28,7 @@ void Paint(const Text& text, QPainter& painter) {
     painter.save();
     painter.translate(text.room.left(), text.at.y());
     painter.scale(scale, scale);
-    painter.setFont(MeasuredFont(text.bold));
+    painter.setFont(MeasuredFont());
     painter.setPen(QColor::fromRgb(text.colour));
     painter.drawText(QPointF(0, 0), text.text);
     painter.restore();
@@ -48,22 +49,23 @@ void Paint(const Page& page, double dotsPerInch, QPainter& painter) {
     painter.restore();
 }
 
-// The pixels for a length. Beyond the painter's last coordinate nothing would be painted.
-int Pixels(double millimetres, double dotsPerInch) {
-    constexpr double most = 32767;
-    const double pixels = std::ceil(millimetres * dotsPerInch / MillimetresPerInch);
-    if (pixels > most) {
-        throw PaintError("the picture is more than 32767 pixels long; try a smaller --dpi");
+// The pixels of a page. Beyond the painter's last coordinate nothing would be painted.
+QSize PixelsOf(const Page& page, double dotsPerInch) {
+    constexpr double longest = 32767;
+    constexpr double most = 1 << 28;  // a gigabyte
+    const double width = std::ceil(page.size.width() * dotsPerInch / MillimetresPerInch);
+    const double height = std::ceil(page.size.height() * dotsPerInch / MillimetresPerInch);
+    if (std::max(width, height) > longest || width * height > most) {
+        throw PaintError("the picture has more pixels than can be painted; try a smaller --dpi");
     }
-    return static_cast<int>(pixels);
+    return {static_cast<int>(width), static_cast<int>(height)};
 }
 
 }  // namespace
 
 QByteArray PngOf(const Drawing& drawing, double dotsPerInch) {
     const Page& page = drawing.pages.front();
-    QImage image(Pixels(page.size.width(), dotsPerInch), Pixels(page.size.height(), dotsPerInch),
-                 QImage::Format_RGB32);
+    QImage image(PixelsOf(page, dotsPerInch), QImage::Format_RGB32);
     if (image.isNull()) {
         throw PaintError("the picture has more pixels than there is memory; try a smaller --dpi");
     }

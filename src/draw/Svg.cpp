@@ -79,8 +79,7 @@ void Write(const Shape& shape, Writer& out) {
 void Write(const Text& text, Writer& out) {
     constexpr std::array anchors{"", " text-anchor=\"middle\"", " text-anchor=\"end\""};
     out << "<text x=\"" << text.at.x() << "\" y=\"" << text.at.y() << "\" font-size=\"" << text.size
-        << "\"" << anchors[static_cast<std::size_t>(text.anchor)]
-        << (text.bold ? " font-weight=\"bold\"" : "");
+        << "\"" << anchors[static_cast<std::size_t>(text.anchor)];
     if (text.colour != 0xFF000000) {
         out << " fill=\"" << ColourName(text.colour) << "\"";
     }
@@ -108,7 +107,7 @@ QByteArray SvgOf(const Drawing& drawing) {
     QByteArray document;
     Writer out(document);
     out << "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
-        << "<svg xmlns=\"http://www.w3.org/2000/svg\" role=\"img\" width=\""
+        << "<svg xmlns=\"http://www.w3.org/2000/svg\" role=\"img\" fill-rule=\"evenodd\" width=\""
         << QByteArray::number(page.size.width()) << "mm\" height=\""
         << QByteArray::number(page.size.height()) << "mm\" viewBox=\"0 0 " << page.size.width()
         << " " << page.size.height() << "\" font-family=\"" << FontFamilies << "\">\n<title>"
