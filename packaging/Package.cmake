@@ -18,8 +18,8 @@ erosion.
 .
 TephrexEdit shows one phase at a time, offers the parameters that count for
 its type, and saves a record only when every phase keeps the limits of its
-type. The program tephrexcheck lists everything that is wrong with any number of
-records.")
+type. The program tephrexcheck lists everything that is wrong with any
+number of records, and tephrexdraw draws one as a picture.")
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_MAINTAINER "TephrexEdit developers <tephrexedit@example.org>")
 set(CPACK_DEBIAN_PACKAGE_SECTION science)

@@ -30,11 +30,18 @@ for manual in "$share"/man/man1/*.gz; do
     [ -z "$remarks" ] || give_up "the manual: $remarks"
     zcat "$manual" | mandoc -T lint
 done
-lintian --display-info --fail-on error,warning,info "$package"
+# Machine code can look like a misspelt word.
+lintian --display-info --fail-on error,warning,info --suppress-tags spelling-error-in-binary "$package"
 
 # Every program is hardened. None has a call whose room the compiler knows, so fortifying leaves no
 # trace in them: that every unit is built with it is looked for in the commands.
-find "$home/tree" -type f -perm /111 -exec hardening-check --nofortify --nocfprotection {} +
+mapfile -t programs < <(find "$home/tree" -type f -perm /111)
+report=$(hardening-check "${programs[@]}" || true)
+echo "$report"
+for trait in "Position Independent Executable" "Stack protected" "Read-only relocations" \
+    "Immediate binding"; do
+    [ "$(grep -c "^ $trait: yes" <<<"$report")" -eq ${#programs[@]} ] || give_up "not: $trait"
+done
 commands=$(grep '"command".*/src/' "$build/compile_commands.json")
 ! grep -v -- '-D_FORTIFY_SOURCE=3' <<<"$commands" || give_up "not all is fortified"
 
