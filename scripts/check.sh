@@ -31,6 +31,11 @@ if awk 'NR == FNR { plain[$1]; next } $1 ~ /^check\// && $2 !~ /^check\// && !($
     echo "tephrexcheck may include the plain library only"
     exit 1
 fi
+if awk 'NR == FNR { plain[$1]; next } $1 ~ /^draw\// && $2 !~ /^(check|draw)\// && !($2 in plain)' \
+    src/plain_units.txt build/arrows | grep .; then
+    echo "tephrexdraw may include the plain library and tephrexcheck's units only"
+    exit 1
+fi
 # A unit of that list that is gone, or misspelt, would be checked no more.
 while read -r unit; do
     [ -f "src/$unit.h" ] || { echo "src/plain_units.txt: there is no $unit" && exit 1; }

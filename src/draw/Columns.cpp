@@ -45,6 +45,30 @@ double WidestNumber(const EditorState& record, Lettering& lettering) {
     return widest;
 }
 
+// Sets the columns to the right of the map, from the right, and where the map ends.
+void SetRightColumns(const EditorState& record, const Contents& contents, Lettering& lettering,
+                     Columns& columns) {
+    constexpr double gap = 2;
+    double end = columns.End();
+    const auto take = [&end](bool used, double room) {
+        const double taken = end;
+        end -= used ? room + gap : 0;
+        return taken;
+    };
+    columns.faultsWidth = std::min(30.0, columns.width / 5);
+    columns.faultsStart = take(contents.refused, columns.faultsWidth) - columns.faultsWidth;
+    columns.flowsWidth =
+        std::clamp(Sheet::WidestBar * contents.flows, lettering.Width("durations", Sheet::Quiet),
+                   std::min(26.0, columns.width / 7));
+    columns.flowsStart = take(contents.flows > 0, columns.flowsWidth) - columns.flowsWidth;
+    columns.burstsEnd =
+        take(contents.bursts, std::max(WidestNumber<&P::burstCount>(record, lettering),
+                                       lettering.Width("Bursts,", Sheet::Quiet)));
+    columns.fluxEnd = take(contents.flux, std::max(WidestNumber<&P::massFlux>(record, lettering),
+                                                   lettering.Width("Mass", Sheet::Quiet)));
+    columns.mapEnd = end + gap - Sheet::MapGap;
+}
+
 }  // namespace
 
 double Columns::PlaceOf(double location) const {
@@ -84,7 +108,6 @@ Contents ContentsOf(const EditorState& record) {
 Columns ColumnsOf(const EditorState& record, const Contents& contents, double width,
                   Lettering& lettering) {
     constexpr double timeAxis = 3.5;
-    constexpr double gap = 2;
     Columns columns{};
     columns.width = width;
     columns.scale = ScaleOf(record);
@@ -92,24 +115,6 @@ Columns ColumnsOf(const EditorState& record, const Contents& contents, double wi
         Sheet::Margin + timeAxis + lettering.Width(Label(record.LoadedPhaseCount), Sheet::Plain);
     columns.nameStart = columns.numberEnd + 1.6;
     columns.mapStart = columns.nameStart + WidestName(record, lettering) + Sheet::MapGap;
-
-    double end = columns.End();
-    const auto take = [&end](bool used, double room) {
-        const double taken = end;
-        end -= used ? room + gap : 0;
-        return taken;
-    };
-    columns.faultsWidth = std::min(30.0, width / 5);
-    columns.faultsStart = take(contents.refused, columns.faultsWidth) - columns.faultsWidth;
-    columns.flowsWidth =
-        std::clamp(Sheet::WidestBar * contents.flows, lettering.Width("durations", Sheet::Quiet),
-                   std::min(26.0, width / 7));
-    columns.flowsStart = take(contents.flows > 0, columns.flowsWidth) - columns.flowsWidth;
-    columns.burstsEnd =
-        take(contents.bursts, std::max({WidestNumber<&P::burstCount>(record, lettering),
-                                        lettering.Width("Bursts,", Sheet::Quiet)}));
-    columns.fluxEnd = take(contents.flux, std::max(WidestNumber<&P::massFlux>(record, lettering),
-                                                   lettering.Width("Mass", Sheet::Quiet)));
-    columns.mapEnd = end + gap - Sheet::MapGap;
+    SetRightColumns(record, contents, lettering, columns);
     return columns;
 }

@@ -183,6 +183,15 @@ std::vector<Entry> EntriesOf(const EditorState& record, const std::vector<Group>
     return entries;
 }
 
+void AddEntry(const Entry& entry, QPointF corner, Group& group, Lettering& lettering) {
+    for (Shape shape : entry.shapes) {
+        shape.path.translate(corner);
+        group.shapes.push_back(shape);
+    }
+    group.texts.push_back(lettering.Put(entry.text, corner + QPointF(SymbolWidth + 1, 3.9),
+                                        Anchor::Left, Sheet::Small));
+}
+
 }  // namespace
 
 Legend LegendOf(const EditorState& record, const std::vector<Group>& rows, const Columns& columns,
@@ -198,15 +207,9 @@ Legend LegendOf(const EditorState& record, const std::vector<Group>& rows, const
     const int down = (count + across - 1) / across;
     Legend legend{{}, down * EntryHeight};
     for (int i = 0; i < count; ++i) {
-        const Entry& entry = entries[static_cast<std::size_t>(i)];
         const int column = i / down;
         const QPointF corner(Sheet::Margin + column * (room / across), i % down * EntryHeight);
-        for (Shape shape : entry.shapes) {
-            shape.path.translate(corner);
-            legend.group.shapes.push_back(shape);
-        }
-        legend.group.texts.push_back(lettering.Put(
-            entry.text, corner + QPointF(SymbolWidth + 1, 3.9), Anchor::Left, Sheet::Small));
+        AddEntry(entries[static_cast<std::size_t>(i)], corner, legend.group, lettering);
     }
     return legend;
 }

@@ -3,11 +3,9 @@
 
 #include "draw/Columns.h"
 
-/// The height that the legend of a record takes.
-/// The legend with its upper edge at `top`; `height` is what it takes.
 struct Legend {
     Group group;
-    double height = 0;
+    double height = 0;  // that it takes
 };
 
 /// The legend of what the rows hold, laid out from 0 downwards.

@@ -45,47 +45,58 @@ Format FormatOf(const QString& output) {
     throw WrongUse("the name of the picture ends in .svg, .png or .pdf");
 }
 
+struct CommandLine {
+    QCommandLineOption help{{"h", "help"}, "Show this help and end."};
+    QCommandLineOption version{{"V", "version"}, "Show the version and end."};
+    QCommandLineOption output{
+        {"o", "output"},
+        "Draw into FILE, by its ending .svg, .png or .pdf; without it, SVG on standard output.",
+        "FILE"};
+    QCommandLineOption width{"width", "Width in millimetres, 120 to 2000.", "MM", "180"};
+    QCommandLineOption dpi{"dpi", "Dots per inch of a PNG, 10 to 2400.", "DPI", "200"};
+    QCommandLineParser parser;
+
+    CommandLine(int argc, char** argv) {
+        parser.setApplicationDescription(
+            "Draws a record of the Tephrex eruption simulator as one picture.");
+        parser.addPositionalArgument("RECORD", "The record to draw.");
+        parser.addOptions({help, version, output, width, dpi});
+        QStringList arguments;
+        for (int i = 0; i < argc; ++i) {
+            arguments += Carried(argv[i]);
+        }
+        if (!parser.parse(arguments)) {
+            throw WrongUse(Bytes(parser.errorText()));
+        }
+    }
+};
+
+Options PictureOf(const CommandLine& line) {
+    if (line.parser.positionalArguments().size() != 1) {
+        throw WrongUse("name one record; --help shows how");
+    }
+    Options options;
+    options.record = Bytes(line.parser.positionalArguments().front());
+    if (line.parser.isSet(line.output)) {
+        options.output = Bytes(line.parser.value(line.output));
+        options.format = FormatOf(line.parser.value(line.output));
+    }
+    options.width = NumberOf(line.parser, line.width, {NarrowestSheet, 2000});
+    options.dpi = NumberOf(line.parser, line.dpi, {10, 2400});
+    return options;
+}
+
 }  // namespace
 
 Options OptionsOf(int argc, char** argv) {
-    QCommandLineParser parser;
-    parser.setApplicationDescription(
-        "Draws a record of the Tephrex eruption simulator as one picture.");
-    parser.addPositionalArgument("RECORD", "The record to draw.");
-    const QCommandLineOption help({"h", "help"}, "Show this help and end.");
-    const QCommandLineOption version({"V", "version"}, "Show the version and end.");
-    const QCommandLineOption output(
-        {"o", "output"},
-        "Draw into FILE, by its ending .svg, .png or .pdf; without it, SVG on standard output.",
-        "FILE");
-    const QCommandLineOption width("width", "Width in millimetres, 120 to 2000.", "MM", "180");
-    const QCommandLineOption dpi("dpi", "Dots per inch of a PNG, 10 to 2400.", "DPI", "200");
-    parser.addOptions({help, version, output, width, dpi});
-    QStringList arguments;
-    for (int i = 0; i < argc; ++i) {
-        arguments += Carried(argv[i]);
-    }
+    const CommandLine line(argc, argv);
     Options options;
-    if (!parser.parse(arguments)) {
-        throw WrongUse(Bytes(parser.errorText()));
-    }
-    if (parser.isSet(help)) {
-        options.answer = parser.helpText().toStdString();
-        return options;
-    }
-    if (parser.isSet(version)) {
+    if (line.parser.isSet(line.help)) {
+        options.answer = line.parser.helpText().toStdString();
+    } else if (line.parser.isSet(line.version)) {
         options.answer = "tephrexdraw " TEPHREX_VERSION "\n";
-        return options;
+    } else {
+        options = PictureOf(line);
     }
-    if (parser.positionalArguments().size() != 1) {
-        throw WrongUse("name one record; --help shows how");
-    }
-    options.record = Bytes(parser.positionalArguments().front());
-    if (parser.isSet(output)) {
-        options.output = Bytes(parser.value(output));
-        options.format = FormatOf(parser.value(output));
-    }
-    options.width = NumberOf(parser, width, {NarrowestSheet, 2000});
-    options.dpi = NumberOf(parser, dpi, {10, 2400});
     return options;
 }

@@ -10,8 +10,8 @@ struct Options {
     std::string record;  // bytes, as they are on the command line
     std::string output;  // empty for standard output
     Format format = Format::Svg;
-    double width = 180;  // millimetres
-    double dpi = 200;
+    double width = 0;  // millimetres
+    double dpi = 0;
     std::string answer;  // what to print instead of drawing: the help or the version
 };
 

@@ -6,8 +6,6 @@
 #include <cstdio>
 #include <system_error>
 
-#include "check/Wording.h"
-
 namespace {
 
 void WriteToStandardOutput(const QByteArray& bytes) {
@@ -26,10 +24,10 @@ void WriteWhole(const std::string& name, const QByteArray& bytes) {
     }
     const QString path = QFile::decodeName(name.c_str());
     if (QFile::encodeName(path).toStdString() != name) {
-        throw OutputError(OneLine(name) + ": the name is not UTF-8");
+        throw OutputError(name + ": the name is not UTF-8");
     }
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit()) {
-        throw OutputError(OneLine(name) + ": " + file.errorString().toStdString());
+        throw OutputError(name + ": " + file.errorString().toStdString());
     }
 }

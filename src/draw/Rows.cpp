@@ -1,5 +1,6 @@
 #include "draw/Rows.h"
 
+#include <QtMath>
 #include <algorithm>
 #include <cmath>
 #include <stdexcept>
@@ -141,8 +142,7 @@ void AddFault(const Row& row) {
     constexpr double degreesForOne = 6;  // of dip
     constexpr double longestThrow = 5;   // of the largest magnitude
     const double dip = std::clamp<int>(row.phase.faultDip, -10, 10) * degreesForOne;
-    const double slope =
-        std::tan(dip * 3.14159265358979 / 180);  // sideways for each unit downwards
+    const double slope = std::tan(qDegreesToRadians(dip));  // sideways for each unit downwards
     const double thrown = std::clamp<int>(row.phase.faultMagnitude, 0, 20) / 20.0 * longestThrow;
     const double y = row.top + Sheet::RowHeight / 2;
     const auto on = [&](double down) { return QPointF(row.Vent() + slope * down, y + down); };
@@ -229,13 +229,10 @@ void AddEruption(const Row& row) {
     }
 }
 
-void AddNumbers(const Row& row) {
-    if (Uses<&P::massFlux>(row)) {
-        row.Write(Label(static_cast<double>(row.phase.massFlux)), row.columns.fluxEnd,
-                  row.FirstLine(1), Anchor::Right);
-    }
-    if (Uses<&P::burstCount>(row)) {
-        row.Write(Label(row.phase.burstCount), row.columns.burstsEnd, row.FirstLine(1),
+template <auto Member>
+void AddNumber(const Row& row, double end) {
+    if (Uses<Member>(row)) {
+        row.Write(Label(static_cast<double>(row.phase.*Member)), end, row.FirstLine(1),
                   Anchor::Right);
     }
 }
@@ -275,25 +272,11 @@ void AddEvent(const Row& row) {
     if (HasFlows(row.phase)) {
         AddFlows(row);
     }
-    AddNumbers(row);
+    AddNumber<&P::massFlux>(row, row.columns.fluxEnd);
+    AddNumber<&P::burstCount>(row, row.columns.burstsEnd);
 }
 
 }  // namespace
-
-Refusal RefusalOf(const PhaseRecord& phase, const FlowRow& flows, Integer scale) {
-    std::string first;
-    try {
-        const auto fault = FirstFault(phase, flows, scale);
-        if (!fault) {
-            return {};
-        }
-        first = fault->message;
-    } catch (const std::overflow_error& error) {
-        first = error.what();
-    }
-    return {QString::fromStdString(first).trimmed(),
-            static_cast<int>(AllFaults(phase, flows, scale).size())};
-}
 
 Group RowOf(const EditorState& record, int number, const Refusal& refusal, const Columns& columns,
             Lettering& lettering) {

@@ -72,7 +72,7 @@ int main(int argc, char** argv) {
         std::cout << options.answer << std::flush;
         return std::cout ? 0 : Failed;
     } catch (const std::exception& error) {
-        std::cerr << "tephrexdraw: " << error.what() << '\n';
+        std::cerr << "tephrexdraw: " << OneLine(error.what()) << '\n';
         return Failed;
     }
 }

@@ -1,0 +1,15 @@
+// What Save would say of a phase.
+#pragma once
+
+#include <QString>
+
+#include "record/PhaseRecord.h"
+
+/// The message that Save would show, and how many faults the phase has; none if it passes.
+struct Refusal {
+    QString message;
+    int faults = 0;
+};
+
+/// The scale is not 0, and the phase has at most 100 flows.
+Refusal RefusalOf(const PhaseRecord& phase, const FlowRow& flows, Integer scale);
