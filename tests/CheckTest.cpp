@@ -1,18 +1,11 @@
 // What tephrexcheck says of records: every check with its line and value, everything that is read
-// otherwise than it looks, and the program from outside.
+// otherwise than it looks.
 #include "TestForm.h"
 #include "check/RecordCheck.h"
 #include "check/Wording.h"
 #include "rules/EruptionTypes.h"
 
 namespace {
-
-std::string Replaced(std::string text, const std::string& from, const std::string& to) {
-    for (std::size_t at = 0; (at = text.find(from, at)) != text.npos; at += to.size()) {
-        text.replace(at, from.size(), to);
-    }
-    return text;
-}
 
 std::string Findings(const std::string& bytes) {
     static RecordCheck check;
@@ -258,64 +251,6 @@ TEST(CheckTest, ListsWhatIsReadOtherwiseThanItLooksWhereItIs) {
                                              : "\\r\\n"))
                 << change.to.substr(0, 40);
         }
-    }
-}
-
-// What the program prints in this folder, and its status.
-std::string Printed(const TempFolder& folder, const std::string& arguments) {
-    const std::string command = "cd '" + folder / "" + "' && '" TEPHREX_CHECK "' " + arguments;
-    FILE* const output = popen(("(" + command + ") 2>&1; echo \"= $?\"").c_str(), "r");
-    std::string text;
-    for (int c = 0; (c = std::fgetc(output)) != EOF;) {
-        text += static_cast<char>(c);
-    }
-    pclose(output);
-    return text;
-}
-
-TEST(CheckTest, TheProgramListsRecordsInOrderAndItsStatusIsTheWorstOfThem) {
-    const std::string warned = Replaced(Good, "2,20", "2,0");
-    const std::string invalid = Replaced(Good, "-8", "-80");
-    const TempFolder folder;
-    std::filesystem::create_directories(folder / "all/b.rec/none");
-    std::filesystem::create_directory_symlink("..", folder / "all/again.rec");
-    WriteBytes(folder / "all/b.rec/i.Rec", invalid);
-    WriteBytes(folder / "all/b.REC", Good);
-    WriteBytes(folder / "all/b-w.rec", warned);
-    WriteBytes(folder / "all/b.txt", "");
-    WriteBytes(folder / "[\n\xE9\"]", Replaced(Good, "1150\n", "1150,"));
-    const std::string warning = "all/b-w.rec:2: warning: 0 is judged as 20 (scale)\n";
-    const std::string fault =
-        "all/b.rec/i.Rec:13: invalid: phase 2 (Hawaiian): Wind speed too negative (wind -80, at "
-        "least -50)\n";
-    const std::string json =
-        "\",\"findings\":[{\"level\":\"warning\",\"line\":20,\"message\":\"what follows the last "
-        "item "
-        "is not read\"}],\"phases\":2,\"status\":\"";
-    const std::pair<std::string, std::string> rows[] = {
-        {"all", warning + fault + "3 records: 2 pass, 1 invalid\n= 1\n"},
-        {"-j1 all", warning + fault + "3 records: 2 pass, 1 invalid\n= 1\n"},
-        {"all/b.REC all/b-w.rec", warning + "2 records: 2 pass\n= 0\n"},
-        {"--strict all/b-w.rec", warning + "1 record: 1 invalid\n= 1\n"},
-        {"-q --strict all/b-w.rec", "= 1\n"},
-        {"no all all/b.rec/none /dev/null",
-         "no: error: No such file or directory\n" + warning + fault +
-             "all/b.rec/none: error: there is no record in this folder\n"
-             "/dev/null: error: not a regular file\n"
-             "6 records: 2 pass, 1 invalid, 3 unreadable\n= 2\n"},
-        {"- <all/b-w.rec", "-:2: warning: 0 is judged as 20 (scale)\n1 record: 1 passes\n= 0\n"},
-        {"- </",
-         "-:1: error: the file or its device failed: Is a directory (label)\n"
-         "1 record: 1 unreadable\n= 2\n"},
-        {"[[]*",
-         "[\\n\xE9\"]:20: warning: what follows the last item is not read\n1 record: 1 passes\n= "
-         "0\n"},
-        {"--json [[]*", "{\"record\":\"[\\n\uFFFD\\\"]" + json + "passes\"}\n= 0\n"},
-        {"--jobs 0 all 2>/dev/null", "= 2\n"},
-        {"2>/dev/null", "= 2\n"},
-        {"all >/dev/full", "tephrexcheck: standard output: No space left on device\n= 2\n"}};
-    for (const auto& [arguments, expected] : rows) {
-        EXPECT_EQ(Printed(folder, arguments), expected) << arguments;
     }
 }
 

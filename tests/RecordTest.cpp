@@ -3,13 +3,6 @@
 
 namespace {
 
-std::string Replaced(std::string text, const std::string& from, const std::string& to) {
-    for (std::size_t at = 0; (at = text.find(from, at)) != std::string::npos; at += to.size()) {
-        text.replace(at, from.size(), to);
-    }
-    return text;
-}
-
 // clang-format off
 const std::string Sample = Replaced(
     "\"Stratigraphic file:\",\"\"\n\"Recorded phases\",2,20\n"

@@ -126,6 +126,14 @@ inline void WriteBytes(const std::string& path, const std::string& bytes) {
     std::ofstream(path, std::ios::binary) << bytes;
 }
 
+/// The text with every `from` in it replaced.
+inline std::string Replaced(std::string text, const std::string& from, const std::string& to) {
+    for (std::size_t at = 0; (at = text.find(from, at)) != std::string::npos; at += to.size()) {
+        text.replace(at, from.size(), to);
+    }
+    return text;
+}
+
 inline std::size_t PositionOf(const ComboBox& list, const std::string& text) {
     const auto entry = std::find(list.Entries().begin(), list.Entries().end(), text);
     EXPECT_TRUE(entry != list.Entries().end()) << "no entry " << text;

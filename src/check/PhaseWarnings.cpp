@@ -17,35 +17,38 @@ struct Code {
 };
 
 template <auto Flag>
-bool IsNoFlag(const PhaseRecord& phase) {
+bool IsNoFlag(const P& phase) {
     return phase.*Flag != 0 && phase.*Flag != 1;
+}
+
+bool IsNotChosen(const P& phase) { return phase.eruptionType == EruptionType::None; }
+bool IsNoType(const P& phase) { return !IsNotChosen(phase) && !IsEruptionType(phase.eruptionType); }
+bool IsNoStyle(const P& phase) {
+    return phase.calderaStyle != 0 && StyleEntry(phase.calderaStyle, "").empty();
+}
+bool IsNoSide(const P& phase) {
+    return phase.faultDownSide != 0 && SideEntry(phase.faultDownSide, "").empty();
+}
+
+// Only tectonic phases need a kind.
+bool IsNoKind(const P& phase) {
+    const bool mayBeZero = phase.eruptionType != EruptionType::Tectonic;
+    return phase.tectonicKind != TectonicKind::Faulting &&
+           phase.tectonicKind != TectonicKind::Erosion && !(phase.tectonicKind == 0 && mayBeZero);
 }
 
 constexpr std::string_view NoFlag = " is neither 0 nor 1";
 
-// clang-format off
 constexpr std::array<Code, 8> Codes{{
-    {FieldOf(&P::eruptionType),  [](const P& p) { return p.eruptionType == EruptionType::None; },
-                                 " means that no eruption type is chosen"},
-    {FieldOf(&P::eruptionType),  [](const P& p) { return p.eruptionType != EruptionType::None &&
-                                                         !IsEruptionType(p.eruptionType); },
-                                 " is no eruption type"},
-    {FieldOf(&P::calderaFlag),   IsNoFlag<&P::calderaFlag>,  NoFlag},
-    {FieldOf(&P::directedFlag),  IsNoFlag<&P::directedFlag>, NoFlag},
-    {FieldOf(&P::calderaStyle),  [](const P& p) { return p.calderaStyle != 0 &&
-                                                         StyleEntry(p.calderaStyle, "").empty(); },
-                                 " is no caldera style"},
-    {FieldOf(&P::burstFlag),     IsNoFlag<&P::burstFlag>,    NoFlag},
-    {FieldOf(&P::tectonicKind),  [](const P& p) { return p.tectonicKind != TectonicKind::Faulting &&
-                                                         p.tectonicKind != TectonicKind::Erosion &&
-                                                         (p.tectonicKind != 0 ||
-                                                          p.eruptionType == EruptionType::Tectonic); },
-                                 " is neither Faulting nor Erosion"},
-    {FieldOf(&P::faultDownSide), [](const P& p) { return p.faultDownSide != 0 &&
-                                                         SideEntry(p.faultDownSide, "").empty(); },
-                                 " is no down side"},
+    {FieldOf(&P::eruptionType), IsNotChosen, " means that no eruption type is chosen"},
+    {FieldOf(&P::eruptionType), IsNoType, " is no eruption type"},
+    {FieldOf(&P::calderaFlag), IsNoFlag<&P::calderaFlag>, NoFlag},
+    {FieldOf(&P::directedFlag), IsNoFlag<&P::directedFlag>, NoFlag},
+    {FieldOf(&P::calderaStyle), IsNoStyle, " is no caldera style"},
+    {FieldOf(&P::burstFlag), IsNoFlag<&P::burstFlag>, NoFlag},
+    {FieldOf(&P::tectonicKind), IsNoKind, " is neither Faulting nor Erosion"},
+    {FieldOf(&P::faultDownSide), IsNoSide, " is no down side"},
 }};
-// clang-format on
 
 bool BoxKeeps(const FieldRange& range, Single value) {
     switch (range.kind) {
