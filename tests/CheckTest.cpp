@@ -114,7 +114,7 @@ const Change Changes[] = {
      "11: warning: phase 2: \"Record Phase: \" where an empty line is expected (empty line)\n"
      "12: invalid: phase 2 (Vulcanian/Surtseyan): Minimum Strength (0.20) not met. (strength -8)\n"
      "19: warning: what follows the last item is not read\n"},
-    {"\n\n\"Record Phase: \",2", ",\"\",\"Record Phase: \",2",
+    {"\n\n\"Record Phase: \",2", ",\n\"Record Phase: \",2",
      "10: warning: phase 2: the line of the block before goes on where a new line is expected (empty line)\n"},
     {"\"Record Phase: \",2\n12", "Record Phase: , 2.\nx",
      "13: warning: phase 2: \"x\" is no number and counts as 0 (ventLocation)\n"
@@ -161,10 +161,11 @@ const Change Changes[] = {
      "5: invalid: phase 1 (Vulcanian/Surtseyan): Wind speed too high (wind 51, at most 50)\n"},
     {"2,20", "2,0",
      "2: warning: 0 is judged as 20 (scale)\n"},
-    {"2,20", "2,-7",
+    {"2,20", "3,-7",
      "2: warning: -7 is none of the scales 4, 20 and 100 (scale)\n"
      "5: invalid: phase 1 (Plinian): Location too small (ventLocation 12.5, at most -0.3500001)\n"
-     "13: invalid: phase 2 (Hawaiian): Location too small (ventLocation 12, at most -0.3500001)\n"},
+     "13: invalid: phase 2 (Hawaiian): Location too small (ventLocation 12, at most -0.3500001)\n"
+     "20: error: the file ends before the record does (phase 3 of 3, empty line)\n"},
     {"1150\n", "1150\n \n\n;",
      "23: warning: what follows the last item is not read\n"},
     {"1150\n", "1150,\n",

@@ -27,13 +27,11 @@ void NotingReader::EndBlock(int block) {
 
 void NotingReader::Look(double value, bool isWhole) {
     Settle();
-    if (!in.Plain()) {
-        Watch();
-        notes.CompareNumber(place, in.Item(), value, isWhole);
-    }
+    Watch();
+    notes.CompareNumber(place, in.Item(), value, isWhole);
 }
 
-// What came after the closing quote of the last item is known now.
+// What came after the closing quote is known once the next item has been read, whenever that is.
 void NotingReader::Settle() {
     if (std::exchange(afterQuote, false) && in.Dropped()) {
         notes.NoteDropped(quoted);

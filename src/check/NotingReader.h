@@ -22,7 +22,7 @@ public:
     void Read(Number& value) {
         in.Read(value);
         notes.SetLine(place.item, in.Line());
-        if (!in.Plain() || afterQuote) {
+        if (!in.Plain()) {
             Look(static_cast<double>(value), std::is_integral_v<Number>);
         }
     }
@@ -44,6 +44,6 @@ private:
 
     ItemReader in;
     std::function<void(int block)> endOfBlock;
-    bool afterQuote = false;  // whether the last item was in quotes
+    bool afterQuote = false;  // what came after the item in quotes is not looked at yet
     ItemPlace quoted;         // that item
 };
