@@ -46,12 +46,7 @@ bool HasLongFlow(Judged& j) { return j.badFlow.has_value(); }
 
 Limits LongEnough(const Judged& j) { return {ShortestFlow(j.phase.eruptionType), {}}; }
 Limits ShortEnough(const Judged& j) {
-    const double longest = LongestFlow(j.phase, j.badFlow->flow);
-    const auto last = static_cast<Single>(longest);  // which can lie on either side of it
-    return {{},
-            static_cast<double>(last) > longest
-                ? std::nextafter(last, -std::numeric_limits<Single>::max())
-                : last};
+    return {{}, static_cast<Single>(LongestFlow(j.phase, j.badFlow->flow))};  // a whole number
 }
 
 }  // namespace
