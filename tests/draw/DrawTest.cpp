@@ -50,7 +50,7 @@ std::vector<Shape> ShapesOf(const Drawing& drawing, int phase, Mark mark) {
 }
 
 QRectF WideRoom(const Text& text) {
-    const double more = text.room.width() * (RoomForOtherFonts - 1);
+    const double more = text.room.width() * 0.1;
     const double left = text.anchor == Anchor::Left    ? 0
                         : text.anchor == Anchor::Right ? more
                                                        : more / 2;
