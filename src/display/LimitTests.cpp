@@ -39,13 +39,33 @@ bool LacksSide(Judged& j) {
 }
 
 bool HasShortFlow(Judged& j) {
-    j.badFlow = FirstBadFlow(j.phase, j.flows, j.firstFlow, j.lastFlow);
+    j.badFlow = FirstBadFlow(j.phase, j.flows);
     return j.badFlow && j.badFlow->tooShort;
 }
 bool HasLongFlow(Judged& j) { return j.badFlow.has_value(); }
 
-Limits LongEnough(const Judged& j) { return {ShortestFlow(j.phase.eruptionType), {}}; }
+bool IsTooShort(const Judged& j, int flow) {
+    return j.flows[flow] < ShortestFlow(j.phase.eruptionType);
+}
+bool IsTooLong(const Judged& j, int flow) {
+    return static_cast<double>(j.flows[flow]) > LongestFlow(j.phase, flow);
+}
+
+// With a flow length far out of range no duration passes: its ceiling is below its floor, or leaves
+// 16 bits.
+bool AnyDurationPasses(const Judged& j) {
+    const auto [lowest, highest] = FlowLengthsThatFit(j.phase.eruptionType, j.badFlow->flow);
+    return j.phase.flowLength >= lowest && j.phase.flowLength <= highest &&
+           LongestFlow(j.phase, j.badFlow->flow) >= ShortestFlow(j.phase.eruptionType);
+}
+
+Limits LongEnough(const Judged& j) {
+    return AnyDurationPasses(j) ? Limits{ShortestFlow(j.phase.eruptionType), {}} : Limits{};
+}
 Limits ShortEnough(const Judged& j) {
+    if (!AnyDurationPasses(j)) {
+        return {};
+    }
     return {{}, static_cast<Single>(LongestFlow(j.phase, j.badFlow->flow))};  // a whole number
 }
 
@@ -78,7 +98,7 @@ constexpr Test LocationTooLarge{IsVentAfterMap, &FieldOf(&P::ventLocation), OnMa
 constexpr Test ScarpsEqual{AreScarpsEqual, &FieldOf(&P::scarpBase), Anything};
 constexpr Test NoDownSide{LacksSide, &FieldOf(&P::faultDownSide), Anything};
 constexpr Test NoCalderaStyle{LacksStyle, &FieldOf(&P::calderaStyle), Anything};
-constexpr Test FlowTooShort{HasShortFlow, nullptr, LongEnough};
-constexpr Test FlowTooLong{HasLongFlow, nullptr, ShortEnough};
+constexpr Test FlowTooShort{HasShortFlow, nullptr, LongEnough, nullptr, IsTooShort};
+constexpr Test FlowTooLong{HasLongFlow, nullptr, ShortEnough, nullptr, IsTooLong};
 
 }  // namespace LimitTests

@@ -5,7 +5,8 @@
 
 #include <optional>
 
-#include "display/Limits.h"
+#include "display/LimitValues.h"
+#include "record/PhaseFields.h"
 #include "rules/FlowDurations.h"
 
 namespace LimitTests {
@@ -15,8 +16,6 @@ struct Judged {
     const PhaseRecord& phase;
     const FlowRow& flows;
     double factor;  // from a location to its place on the map
-    int firstFlow;  // of those to look at
-    int lastFlow;
     std::optional<BadFlow> badFlow = std::nullopt;
 };
 
@@ -25,6 +24,7 @@ struct Test {
     const PhaseField* field;  // null: the duration of a flow
     Limits (*passing)(const Judged& judged);
     std::optional<Single> (*correction)(const Judged& judged) = nullptr;
+    bool (*failsFor)(const Judged& judged, int flow) = nullptr;  // one flow by itself
 };
 
 template <auto Field, int Numerator, int Denominator>

@@ -122,7 +122,7 @@ Judged Judging(const PhaseRecord& phase, const FlowRow& flows, Integer recordSca
     if (recordScale == 0) {
         throw std::domain_error("Division by zero");
     }
-    return {phase, flows, MapFactor(recordScale), 1, phase.burstCount};
+    return {phase, flows, MapFactor(recordScale)};
 }
 
 Fault FaultOf(const Check& check, const Judged& judged) {
@@ -133,21 +133,19 @@ Fault FaultOf(const Check& check, const Judged& judged) {
 
 bool IsForFlows(const Check& check) { return check.test.field == nullptr; }
 
-// Each flow by itself, against the rows for flows.
+// Each flow by itself, against each row for flows.
 void JudgeFlows(Judged judged, std::vector<Fault>& faults) {
     bool overflowed = false;
     for (int flow = 1; flow <= judged.phase.burstCount; ++flow) {
-        judged.firstFlow = judged.lastFlow = flow;
-        try {
-            const auto* const check =
-                std::find_if(std::begin(Checks), std::end(Checks), [&judged](const Check& each) {
-                    return IsForFlows(each) && each.test.fails(judged);
-                });
-            if (check != std::end(Checks)) {
-                faults.push_back(FaultOf(*check, judged));
+        for (const Check& check : Checks) {
+            try {
+                if (IsForFlows(check) && check.test.failsFor(judged, flow)) {
+                    judged.badFlow = BadFlow{flow, true};
+                    faults.push_back(FaultOf(check, judged));
+                }
+            } catch (const std::overflow_error&) {
+                overflowed = true;
             }
-        } catch (const std::overflow_error&) {
-            overflowed = true;
         }
     }
     if (overflowed) {

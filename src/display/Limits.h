@@ -6,20 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "display/LimitValues.h"
 #include "record/PhaseFields.h"
-
-/// The ends of the map, as map positions; both are on it.
-constexpr double MapStart = 50;
-constexpr double MapEnd = 1230;
-
-/// What a location is multiplied by for its map position. The scale is not 0.
-constexpr double MapFactor(Integer recordScale) { return 1000.0 / recordScale; }
-
-/// The values that pass: from `lowest` to `highest`, both included, where there is a limit.
-struct Limits {
-    std::optional<Single> lowest;
-    std::optional<Single> highest;
-};
 
 /// A limit that a phase breaks.
 struct Fault {

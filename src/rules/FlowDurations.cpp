@@ -55,10 +55,9 @@ RandomSource NewRandomSource() {
     };
 }
 
-std::optional<BadFlow> FirstBadFlow(const PhaseRecord& phase, const FlowRow& flows, int first,
-                                    int last) {
+std::optional<BadFlow> FirstBadFlow(const PhaseRecord& phase, const FlowRow& flows) {
     const Single shortest = ShortestFlow(phase.eruptionType);
-    for (int j = first; j <= last; ++j) {
+    for (int j = 1; j <= phase.burstCount; ++j) {
         const Single duration = flows[j];
         if (duration < shortest) {
             return BadFlow{j, true};

@@ -31,10 +31,9 @@ struct FlowLengths {
 };
 FlowLengths FlowLengthsThatFit(Integer eruptionType, int last);
 
-/// The first of the flows `first` to `last` of a Hawaiian or Peléean phase that is out of its
-/// limits, if any. Throws as above, and std::out_of_range for a flow above 100.
-std::optional<BadFlow> FirstBadFlow(const PhaseRecord& phase, const FlowRow& flows, int first,
-                                    int last);
+/// The first of the flows of a Hawaiian or Peléean phase that is out of its limits, if any. Throws
+/// as above, and std::out_of_range for a flow above 100.
+std::optional<BadFlow> FirstBadFlow(const PhaseRecord& phase, const FlowRow& flows);
 
 /// A new duration for flow number `flow`, from one draw r. `hawaiian` tells the rule, not the
 /// phase. The result lies within the limits above for a `flowLength` of 1 to 11.
