@@ -166,6 +166,17 @@ const Change Changes[] = {
      "5: invalid: phase 1 (Plinian): Location too small (ventLocation 12.5, at most -0.3500001)\n"
      "13: invalid: phase 2 (Hawaiian): Location too small (ventLocation 12, at most -0.3500001)\n"
      "20: error: the file ends before the record does (phase 3 of 3, empty line)\n"},
+    {"-8", "50.000004",
+     "13: invalid: phase 2 (Hawaiian): Wind speed too high (wind 50.000004, at most 50)\n"},
+    {"6,6,20", "-5,6,20",
+     "17: warning: phase 2: -5 is outside 1 to 11 (flowLength)\n"
+     "19: invalid: phase 2 (Hawaiian): Flow Duration too long. (flow 1: 300)\n"
+     "20: invalid: phase 2 (Hawaiian): Flow Duration too long. (flow 2: 1150)\n"},
+    {"6,6,20,6,6,7\n0,0,-1,1.5\n300\n1150", "999,6,20,6,6,7\n0,0,-1,1.5\n5\n6",
+     "17: warning: phase 2: 999 is outside 1 to 11 (flowLength)\n"
+     "17: invalid: phase 2 (Hawaiian): Overflow (flowLength 999, at most 269)\n"
+     "19: invalid: phase 2 (Hawaiian): Flow Duration too short. (flow 1: 5)\n"
+     "20: invalid: phase 2 (Hawaiian): Flow Duration too short. (flow 2: 6)\n"},
     {"1150\n", "1150\n \n\n;",
      "23: warning: what follows the last item is not read\n"},
     {"1150\n", "1150,\n",

@@ -1,5 +1,6 @@
 #include "check/PhaseWarnings.h"
 
+#include "check/Wording.h"
 #include "record/RecordFile.h"
 #include "rules/EruptionTypes.h"
 #include "rules/FieldUse.h"
@@ -79,7 +80,7 @@ void WarnOfNumbers(
         constexpr const PhaseField& field = PhaseFields[index];
         const auto value = static_cast<Single>(number);
         if (!BoxKeeps(field.range, value) && Uses(phase, field)) {
-            warn(field, ItemText(value) + Outside(field.range));
+            warn(field, ValueText(value) + Outside(field.range));
         }
     });
 }

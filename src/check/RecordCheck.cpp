@@ -115,7 +115,7 @@ void RecordCheck::LookAtPhase(const NotingReader& reader, int number, bool warns
     if (warns) {
         WarnOfNumbers(phase, [&](const PhaseField& field, const std::string& message) {
             Add(reader, {number, ItemOf(field)},
-                {.message = message, .value = ItemText(ValueOf(phase, field))});
+                {.message = message, .value = ValueText(ValueOf(phase, field))});
         });
     }
     const Integer scale = state->RecordScale == Scale::NotSet ? Scale::Normal : state->RecordScale;
@@ -129,7 +129,7 @@ void RecordCheck::LookAtPhase(const NotingReader& reader, int number, bool warns
             {.level = Level::Invalid,
              .type = type != nullptr ? type->name : "",
              .message = std::string(Trimmed(fault.message)),
-             .value = ItemText(isFlow ? flows[fault.flow] : ValueOf(phase, *fault.field)),
+             .value = ValueText(isFlow ? flows[fault.flow] : ValueOf(phase, *fault.field)),
              .passing = fault.passing,
              .showsLimit = !NamesNumber(fault.message)});
     }

@@ -1,5 +1,6 @@
 #include "check/Wording.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -29,25 +30,45 @@ std::string Escape(char c) {
 
 // Controls, marks that turn the direction of writing, and other characters without a look of their
 // own: from and to the last.
-constexpr std::array<std::array<std::string_view, 2>, 5> Unseen{{
+constexpr std::array<std::array<std::string_view, 2>, 8> Unseen{{
     {"\xC2\x80", "\xC2\x9F"},
+    {"\xC2\xAD", "\xC2\xAD"},
+    {"\xD8\x9C", "\xD8\x9C"},
     {"\xE2\x80\x8B", "\xE2\x80\x8F"},
     {"\xE2\x80\xA8", "\xE2\x80\xAE"},
     {"\xE2\x81\xA0", "\xE2\x81\xAF"},
     {"\xEF\xBB\xBF", "\xEF\xBB\xBF"},
+    {"\xF3\xA0\x80\x80", "\xF3\xA0\x81\xBF"},
 }};
 
+// A character is one byte, or several in UTF-8.
+bool IsUnseen(std::string_view character) {
+    const auto holds = [character](const auto& range) {
+        return character.size() == range[0].size() && character >= range[0] &&
+               character <= range[1];
+    };
+    return character.size() == 1 ? IsControl(character.front())
+                                 : std::any_of(Unseen.begin(), Unseen.end(), holds);
+}
+
+// In a quoted text; a byte that is not UTF-8 is not.
 bool IsSeen(std::string_view character) {
-    if (character.size() == 1) {
-        const char c = character.front();
-        return !IsControl(c) && c != '"' && c != '\\' && static_cast<unsigned char>(c) < 0x80;
+    const bool isByte = character.size() == 1 && static_cast<unsigned char>(character[0]) >= 0x80;
+    return !isByte && !IsUnseen(character) && character != "\"" && character != "\\";
+}
+
+std::string Escape(std::string_view character) {
+    std::string escaped;
+    for (const char c : character) {
+        escaped += Escape(c);
     }
-    for (const auto& [first, last] : Unseen) {
-        if (character.size() == first.size() && character >= first && character <= last) {
-            return false;
-        }
-    }
-    return true;
+    return escaped;
+}
+
+std::string_view TakeCharacter(std::string_view& text) {
+    const std::string_view character = text.substr(0, SequenceLength(text));
+    text.remove_prefix(character.size());
+    return character;
 }
 
 // One unit of the last digit that a record has of the numbers just below this one.
@@ -113,25 +134,30 @@ std::string Quoted(std::string_view text) {
         if (count == longest) {
             return quoted + "\"...";
         }
-        const std::string_view character = text.substr(0, SequenceLength(text));
-        text.remove_prefix(character.size());
-        if (IsSeen(character)) {
-            quoted += character;
-        } else {
-            for (const char c : character) {
-                quoted += Escape(c);
-            }
-        }
+        const std::string_view character = TakeCharacter(text);
+        quoted += IsSeen(character) ? std::string(character) : Escape(character);
     }
     return quoted + '"';
 }
 
 std::string OneLine(std::string_view name) {
     std::string line;
-    for (const char c : name) {
-        line += IsControl(c) ? Escape(c) : std::string(1, c);
+    while (!name.empty()) {
+        const std::string_view character = TakeCharacter(name);
+        line += IsUnseen(character) ? Escape(character) : std::string(character);
     }
     return line;
+}
+
+std::string ValueText(Single value) {
+    std::string text = ItemText(value);
+    if (NumberOf(text) != value) {
+        std::array<char, 24> digits{};
+        char* const begin = digits.data();
+        text.assign(begin, std::to_chars(begin, begin + digits.size(), value).ptr);
+        std::replace(text.begin(), text.end(), 'e', 'E');
+    }
+    return text;
 }
 
 std::string HighestText(Single highest) {

@@ -11,8 +11,12 @@
 /// is cut.
 std::string Quoted(std::string_view text);
 
-/// A name of a file on one line: control characters are escaped, all else is as it is.
+/// A name of a file on one line: what cannot be seen is escaped, all else is as it is.
 std::string OneLine(std::string_view name);
+
+/// A value that was read, as the writer writes it or, where that is another value, with all its
+/// digits.
+std::string ValueText(Single value);
 
 /// The last number on the passing side of a limit that a record can have, as text: one that reads
 /// back to a value that passes.

@@ -97,7 +97,8 @@ int main(int argc, char** argv) {
         try {
             Parse(app, options, argc, argv);
         } catch (const CLI::ParseError& error) {
-            return app.exit(error) == 0 ? 0 : WrongUse;
+            const bool asked = app.exit(error) == 0;  // for the help or the version
+            return asked && std::cout.flush() ? 0 : WrongUse;
         }
         return Run(options);
     } catch (const std::exception& error) {
