@@ -209,7 +209,8 @@ void FormWindow::FollowFocus(QWidget* now) {
 // The toolkit comes here for the Tab key, and to hand on the focus of a widget that it disables.
 bool FormWindow::focusNextPrevChild(bool next) {
     const QWidget* const now = focusWidget();
-    if (now == nullptr || now->isEnabled()) {
+    const bool loading = !updatesEnabled();  // when nothing is the user's doing yet
+    if (now == nullptr || now->isEnabled() || loading) {
         return QWidget::focusNextPrevChild(next);
     }
     FocusHeir().Widget().setFocus();

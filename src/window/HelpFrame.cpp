@@ -106,10 +106,10 @@ QLayout* HelpFrame::FindRow() {
     row->addWidget(next);
     row->addWidget(result);
     row->addStretch(1);
+    setTabOrder(page, headings);
+    setTabOrder(headings, word);
     setTabOrder(word, previous);
     setTabOrder(previous, next);
-    setTabOrder(next, headings);
-    setTabOrder(headings, page);
     return row;
 }
 

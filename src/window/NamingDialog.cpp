@@ -183,17 +183,18 @@ void NamingDialog::Offer(const QString& folder, const QString& name) {
 
 void NamingDialog::accept() {
     const QString name = WithoutStandIns(box.text());
-    if (Enters(SelectedFolder()) || name.isEmpty()) {
+    if (Enters(SelectedFolder(), box.text()) || name.isEmpty()) {
         return;
     }
     const bool unchanged = name == offered && directory().path() == offeredIn;
     const QString path = unchanged ? offeredPath : PathOfName(name);
-    if (Enters(path)) {
+    const QString left = acceptMode() == AcceptSave ? offered : QString();
+    if (Enters(path, left)) {
         return;
     }
     const bool asItIs = (unchanged || acceptMode() == AcceptOpen) && QFileInfo::exists(path);
     const QString file = asItIs ? path : WithExtension(path);
-    if (!Enters(file) && MayTake(file)) {
+    if (!Enters(file, left) && MayTake(file)) {
         chosen = file;
         done(Accepted);
     }
@@ -239,12 +240,12 @@ QString NamingDialog::SelectedFolder() const {
                           : rows.front().data(QFileSystemModel::FilePathRole).toString();
 }
 
-bool NamingDialog::Enters(const QString& path) {
+bool NamingDialog::Enters(const QString& path, const QString& nameThere) {
     if (path.isEmpty() || !QFileInfo(path).isDir()) {
         return false;
     }
     setDirectory(path);
-    box.setText(acceptMode() == AcceptSave ? offered : QString());
+    box.setText(nameThere);
     return true;
 }
 

@@ -32,7 +32,7 @@ private:
     QString PathOfName(const QString& name) const;
     QString WithExtension(const QString& path) const;
     QString SelectedFolder() const;
-    bool Enters(const QString& path);
+    bool Enters(const QString& path, const QString& nameThere);
     bool MayTake(const QString& path);
 
     QLineEdit& box;

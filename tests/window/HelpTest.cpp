@@ -78,6 +78,8 @@ TEST_F(WindowTest, HelpIsReadByKeysAndKeepsItsPlaceUntilItIsClosed) {
     emit list.itemActivated(list.topLevelItem(1), 0);
     EXPECT_EQ(page.textCursor().block().text(), "Part");
     EXPECT_TRUE(page.hasFocus());
+    keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    EXPECT_TRUE(list.hasFocus());
     help.showMinimized();
     viewer.ShowHelp(form.CD1);
     EXPECT_FALSE(help.isMinimized());
