@@ -10,17 +10,20 @@ protected:
     std::string question;  // that the last dialog asked or refused with
 
     /// What a dialog chooses that comes up with a name, gets another one typed or pasted over it if
-    /// there is one, and Enter; a question is answered with Yes. Nothing, if it refuses.
+    /// there is one, and Enter; a question is answered with Yes. Nothing, if it refuses. Before
+    /// what is typed it has refused another name.
     std::string Choose(bool opens, const std::string& offered, const std::string& typed = {}) {
-        question.clear();
         QTimer::singleShot(0, &window, [&] {
             auto* const dialog = QApplication::activeModalWidget();
             auto* const box = dialog->findChild<QLineEdit*>();
             EXPECT_TRUE(QTest::qWaitForWindowActive(dialog));
             box->setFocus();
-            if (!typed.empty()) box->setText(QString::fromStdString(typed));
-            QTimer::singleShot(0, &window, [&] { AnswerQuestion(); });
-            keyClick(box, Qt::Key_Return);
+            if (!typed.empty()) {
+                box->setText(QString(256, 'x'));
+                Accept(*box);
+                box->setText(QString::fromStdString(typed));
+            }
+            Accept(*box);
             dialog->close();
         });
         form.CD1.FileName = offered;
@@ -30,6 +33,12 @@ protected:
     }
 
 private:
+    void Accept(QLineEdit& box) {
+        question.clear();
+        QTimer::singleShot(0, &window, [this] { AnswerQuestion(); });
+        keyClick(&box, Qt::Key_Return);
+    }
+
     void AnswerQuestion() {
         if (auto* const box = window.findChild<QMessageBox*>()) {
             const auto* const label = box->findChild<QLabel*>("qt_msgbox_label");
@@ -109,6 +118,9 @@ TEST_F(FilesTest, AReferenceKeepsItsControlCharactersWhileItIsEdited) {
     const QString shown = box->text();
     EXPECT_EQ(shown, Find<QLabel>("labRecfile")->text());
     EXPECT_FALSE(shown.contains('\n') || shown.contains(QChar::LineSeparator)) << "cuts it off";
+    form.labRecfile.SetCaption(std::string(150, 'a') + reference);
+    window.RunPendingEvents();
+    EXPECT_TRUE(Find<QLabel>("labRecfile")->text().endsWith(shown)) << "cut off at the beginning";
     for (const auto key : {Qt::Key_End, Qt::Key_X}) keyClick(box, key);
     EXPECT_EQ(form.txtTopFile.Text(), reference + "x");
     box->setCursorPosition(5);

@@ -47,6 +47,8 @@ TEST_F(WindowTest, AChordTypesNothingAndAHeldKeyPressesOnce) {
         {"cmdAdd", Qt::Key_Enter, "\r", form.cmdAdd.Click, 1, ""},
         {"cmdAdd", Qt::Key_Space, " ", form.cmdAdd.Click, 1, ""},
         {"cmdDelete", Qt::CTRL | Qt::Key_O, "\x0F", form.cmdOpen.Click, 1, ""},
+        {"cmdDelete", Qt::CTRL | Qt::Key_S, "\x13", form.Command2.Click, 1, ""},
+        {"cmdDelete", Qt::Key_F1, "", form.cmdHelp.Click, 1, ""},
         {"chkDirected", Qt::Key_Space, " ", form.chkDirected.Click, 1, ""},
         {"optSmall", Qt::Key_Space, " ", form.optSmall.Click, 1, ""},
     };
@@ -54,6 +56,7 @@ TEST_F(WindowTest, AChordTypesNothingAndAHeldKeyPressesOnce) {
     for (const Row& row : rows) {
         form.txtWind.SetText("10");
         form.cmbType.SetText("Vulcanian/Surtseyan");
+        form.Command2.SetEnabled(true);
         window.RunPendingEvents();
         row.event = [&times] { ++times; };
         times = 0;

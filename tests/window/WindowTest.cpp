@@ -53,6 +53,10 @@ TEST_F(WindowTest, FocusSelectsAllALaterClickPlacesTheCaretARewriteSendsItToTheE
         EXPECT_EQ(part->selectedText(), "20");
         EXPECT_EQ(form.txtWind.SelLength(), 2U) << "though the widget has forgotten it";
     }
+    mouseClick(wind, Qt::LeftButton);
+    mouseClick(wind, Qt::LeftButton, {}, QPoint(2, 5));
+    EXPECT_EQ(form.txtWind.SelLength(), 0U);
+    mouseClick(part, Qt::LeftButton);
     keyClick(part, Qt::Key_Backtab);
     keyClick(wind, Qt::Key_5);
     keyClick(wind, Qt::Key_Z, Qt::ControlModifier);
@@ -144,6 +148,16 @@ TEST_F(WindowTest, ASelectedOptionStays) {
     small->click();
     small->click();
     EXPECT_TRUE(small->isChecked());
+}
+
+TEST_F(WindowTest, OnlyTheFirstClosingUnloads) {
+    int times = 0;
+    form.Unload = [&times] { ++times; };
+    for (const bool byForm : {false, true}) {
+        window.show();
+        byForm ? window.Unload() : void(window.close());
+        EXPECT_EQ(times, 1);
+    }
 }
 
 TEST_F(WindowTest, TheFormBehindAMessageIsUpToDate) {
