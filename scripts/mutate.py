@@ -1,8 +1,10 @@
 #!/usr/bin/env python3
-"""mutate.py [HOW_MANY [SEED]]: changes the core in one small place at a time and runs its tests.
+"""mutate.py [HOW_MANY [SEED]]: changes src in one small place at a time and runs the tests of it.
 
 Each change is one that a slip of the hand could make. The tests should notice; what they do not
-notice is printed with its place and the line before and after. Works on a copy of the project.
+notice is printed with its place and the line before and after. Without a seed one is drawn. Works
+on copies of the project, one for each processor. The window's tests run without a screen; those of
+src/main.cpp are the walks, which need one (see README).
 """
 
 import os
@@ -12,11 +14,29 @@ import shutil
 import subprocess
 import sys
 import tempfile
+import threading
+import time
+from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
 PROJECT = Path(__file__).resolve().parent.parent
-ROOMS = ("record", "shell", "rules", "display", "editing", "form")
-SECONDS = 120  # a test run that takes longer hangs, which is noticed too
+# A test run hangs, which is noticed too, that takes as many times as long as without a change, and
+# as many seconds.
+SLOWER, SECONDS = 10, 120
+
+# What the tests of a room are: what is built for them, and the command in the folder of the build.
+# Monkeys walk but shortly: what the tests with a purpose miss is what is looked for.
+CORE = ("core_tests", ("env", "TEPHREX_MONKEY_ACTS=2000", "tests/core_tests",
+                       "--gtest_fail_fast"))
+WINDOW = ("window_tests", ("env", "QT_QPA_PLATFORM=offscreen", "TEPHREX_MONKEY_ACTS=200",
+                           "tests/window_tests", "--gtest_fail_fast"))
+DRAW = ("draw_tests", ("env", "QT_QPA_PLATFORM=offscreen", "tests/draw_tests",
+                       "--gtest_fail_fast"))
+DRAWING = ("tephrexdraw", ("ctest", "-V", "-R", "^draw$"))
+WALKS = ("tephrexedit", ("ctest", "-V", "--stop-on-failure", "-R", "^(road|spoken)$"))
+EARLY = ("closed_early", ("ctest", "-V", "-R", "^closed-early$"))
+TESTS = {"": (EARLY, WALKS), "window": (WINDOW, WALKS), "check": (CORE,), "draw": (DRAW, DRAWING)}
+OF_OTHER_ROOMS = (CORE, WINDOW)
 
 # Patterns are looked for in code alone; comments are blanked out and texts keep their quotes only.
 SWAPS = {
@@ -29,10 +49,11 @@ SWAPS = {
 CELL = re.compile(r"(?<=[{ ])([oXA-E])(?=[,}])")
 NUMBER = re.compile(r"(?<![\w.\"'])\d+(\.\d+)?(?![\w.]*['x])")
 TEXT = re.compile(r'"([^"\\]|\\.)*"')
-STATEMENT = re.compile(r"^( +)(?!return|const |auto |using |break)[^ ].*;$")
+STATEMENT = re.compile(r"^( +)(?!return|const |auto |using |break|\})[^ ].*;$")
 ROW = re.compile(r"^( +)\{.*\},?$")
 # Steps without effects on others of their kind: to exchange two of them changes nothing.
 QUIET = re.compile(r"EnableBurstFields\(|\.Set(Enabled|Caption|Visible|ToolTipText)\("
+                   r"|[.>]set[A-Z]\w*\(|connect\("
                    r"|^ +[\w.\[\]'\\ ]+ \+?= [^()]+;$|[oX], [oX]")
 
 
@@ -73,7 +94,8 @@ def changes_of(lines, in_order):
             # Nothing depends on the words of a failure.
             if code[match.start()] == '"' and len(match[0]) > 2 and "throw " not in code:
                 yield "text", i, [line], [replaced(line, match, match[0][:-2] + '"')]
-        if in_order and STATEMENT.match(code):
+        begins = codes[i - 1].rstrip()[-1:] in ("", ";", "{", "}", ":")
+        if in_order and begins and STATEMENT.match(code):
             yield "left out", i, [line], [""]
         if in_order and i + 1 < len(lines):
             for shape in (STATEMENT, ROW):
@@ -84,15 +106,16 @@ def changes_of(lines, in_order):
                     yield "exchanged", i, pair, pair[::-1]
 
 
-def all_changes(project):
+def all_changes(src):
     """Changes in an order that takes all kinds in turn, large files more often than small, and
-    headers seldom: for them everything is built anew."""
+    headers seldom: for them everything that includes them is built again."""
     kinds = {}
-    for room in ROOMS:
-        for path in sorted((project / "src" / room).glob("*.*")):
-            in_order = path.suffix == ".cpp" and path.stem not in ("Catalogue", "Wiring")
-            for change in changes_of(path.read_text().split("\n"), in_order):
-                kinds.setdefault(change[0], {}).setdefault(path, []).append(change)
+    for path in sorted(src.rglob("*.*")):
+        if path.suffix not in (".cpp", ".h"):
+            continue
+        in_order = path.suffix == ".cpp" and path.stem not in ("Catalogue", "Wiring")
+        for change in changes_of(path.read_text().split("\n"), in_order):
+            kinds.setdefault(change[0], {}).setdefault(path.relative_to(src), []).append(change)
     for files in kinds.values():
         for changes in files.values():
             random.shuffle(changes)
@@ -110,63 +133,116 @@ def all_changes(project):
 
 
 def run(*command, **options):
-    return subprocess.run(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
-                          **options).returncode
+    return subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True,
+                          errors="replace", **options)
 
 
-def noticed(build):
-    """Whether the tests fail; None if the change does not even build."""
-    if run("cmake", "--build", build, "--target", "core_tests", "-j", str(os.cpu_count())) != 0:
-        return None
-    # A short walk of the monkey: what the tests with a purpose miss is what is looked for.
-    short = dict(os.environ, TEPHREX_MONKEY_ACTS="2000")
-    try:
-        return run(build / "tests/core_tests", "--gtest_fail_fast", env=short, timeout=SECONDS) != 0
-    except subprocess.TimeoutExpired:
-        return True
+class Copy:
+    """A copy of the project in which one change at a time is tried."""
+
+    def __init__(self, folder):
+        self.src, self.build = folder / "src", folder / "build"
+        self.seconds = {}  # that each test run takes without a change
+        shutil.copytree(PROJECT, folder, ignore=shutil.ignore_patterns("build", ".git"))
+        run("cmake", "-S", folder, "-B", self.build, "-DCMAKE_BUILD_TYPE=None",
+            "-DBUILD_TESTING=ON", "-DCMAKE_CXX_FLAGS=-O0",
+            "-DCMAKE_GTEST_DISCOVER_TESTS_DISCOVERY_MODE=PRE_TEST", check=True)
+
+    def measure(self, tests):
+        built, begin = self.builds(tests), time.monotonic()
+        if not built or self.failure(tests):
+            raise RuntimeError(f"{tests[0]} must pass before anything is changed")
+        self.seconds[tests] = time.monotonic() - begin
+
+    def builds(self, tests):
+        return run("cmake", "--build", self.build, "--target", tests[0]).returncode == 0
+
+    def failure(self, tests):
+        """What the tests print if they fail, else nothing."""
+        known = self.seconds.get(tests)
+        limit = known and max(SLOWER * known, SECONDS)
+        try:
+            result = run(*tests[1], cwd=self.build, timeout=limit)
+            return (result.stdout or "failed") if result.returncode != 0 else ""
+        except subprocess.TimeoutExpired:
+            return "[ RUN      ] longer-than-ever"
+
+    def noticed_by(self, all_tests):
+        """The name of the test that fails; empty if none does; None if the change does not even
+        build."""
+        for tests in all_tests:
+            if not self.builds(tests):
+                return None
+            if output := self.failure(tests):
+                failed = re.findall(r"\[  FAILED  \] (\S+)", output)
+                begun = re.findall(r"\[ RUN +\] (\S+)", output)  # a crash ends in the last one
+                return (failed[:1] or begun[-1:] or [tests[0]])[0]
+        return ""
+
+    def try_change(self, path, change):
+        room = path.parts[0] if len(path.parts) > 1 else ""
+        for tests in TESTS.get(room, OF_OTHER_ROOMS):
+            if tests not in self.seconds:
+                self.measure(tests)
+        _, at, old, new = change
+        file = self.src / path
+        text = file.read_text()
+        lines = text.split("\n")
+        assert lines[at : at + len(old)] == old
+        lines[at : at + len(old)] = new
+        file.write_text("\n".join(lines))
+        try:
+            return self.noticed_by(TESTS.get(room, OF_OTHER_ROOMS))
+        finally:
+            file.write_text(text)
 
 
-def try_change(build, path, change):
-    _, at, old, new = change
-    text = path.read_text()
-    lines = text.split("\n")
-    assert lines[at : at + len(old)] == old
-    lines[at : at + len(old)] = new
-    path.write_text("\n".join(lines))
-    try:
-        return noticed(build)
-    finally:
-        path.write_text(text)
+class Trial:
+    """Tries changes in copies of the project, side by side, until there are as many as wanted."""
+
+    def __init__(self, how_many):
+        self.how_many, self.tried, self.missed = how_many, 0, 0
+        self.changes = all_changes(PROJECT / "src")
+        self.lock = threading.Lock()
+
+    def try_in(self, folder):
+        try:
+            copy = Copy(folder)
+            while change := self.next_change():
+                name = copy.try_change(*change)
+                with self.lock:
+                    if name is not None and self.tried < self.how_many:
+                        self.tell(*change, name)
+        except Exception:
+            self.how_many = self.tried  # the other copies stop too
+            raise
+
+    def next_change(self):
+        with self.lock:
+            return next(self.changes, None) if self.tried < self.how_many else None
+
+    def tell(self, path, change, name):
+        self.tried += 1
+        kind, at, old, new = change
+        print(f"{self.tried:4} {'noticed' if name else 'MISSED '} {kind:10} src/{path}:{at + 1}  "
+              f"{name}", flush=True)
+        if not name:
+            self.missed += 1
+            for sign, lines in (("-", old), ("+", new)):
+                print("\n".join(f"     {sign} {line.strip()}" for line in lines), flush=True)
 
 
 def main():
-    how_many = int(sys.argv[1]) if len(sys.argv) > 1 else 100
-    random.seed(int(sys.argv[2]) if len(sys.argv) > 2 else 1)
+    trial = Trial(int(sys.argv[1]) if len(sys.argv) > 1 else 100)
+    seed = int(sys.argv[2]) if len(sys.argv) > 2 else random.randrange(10**6)
+    print(f"seed {seed}", flush=True)
+    random.seed(seed)
     folder = Path(tempfile.mkdtemp(prefix="mutate"))
     try:
-        project, build = folder / "project", folder / "build"
-        shutil.copytree(PROJECT, project, ignore=shutil.ignore_patterns("build", ".git"))
-        run("cmake", "-S", project, "-B", build, "-DCMAKE_BUILD_TYPE=None", "-DBUILD_TESTING=ON",
-            "-DCMAKE_CXX_FLAGS=-O0", "-DCMAKE_DISABLE_FIND_PACKAGE_Qt6=ON",
-            "-DCMAKE_GTEST_DISCOVER_TESTS_DISCOVERY_MODE=PRE_TEST", check=True)
-        if noticed(build) is not False:
-            sys.exit("The tests must pass before anything is changed")
-        tried, missed = 0, 0
-        for path, change in all_changes(project):
-            if tried == how_many:
-                break
-            result = try_change(build, path, change)
-            if result is None:
-                continue
-            tried += 1
-            kind, at, old, new = change
-            print(f"{tried:4} {'noticed' if result else 'MISSED '} {kind:10} "
-                  f"{path.relative_to(project)}:{at + 1}", flush=True)
-            if not result:
-                missed += 1
-                for sign, lines in (("-", old), ("+", new)):
-                    print("\n".join(f"     {sign} {line.strip()}" for line in lines), flush=True)
-        print(f"{tried - missed} of {tried} changes were noticed")
+        copies = [folder / str(number) for number in range(os.cpu_count() or 1)]
+        with ThreadPoolExecutor(len(copies)) as pool:
+            list(pool.map(trial.try_in, copies))
+        print(f"{trial.tried - trial.missed} of {trial.tried} changes were noticed")
     finally:
         shutil.rmtree(folder)
 
