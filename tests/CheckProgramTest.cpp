@@ -56,6 +56,7 @@ TEST(CheckProgramTest, TheProgramListsRecordsInOrderAndItsStatusIsTheWorstOfThem
          "[\\n\xE9\"]:125: warning: what follows the last item is not read\n1 record: 1 passes\n= "
          "0\n"},
         {"--json [[]*", "{\"record\":\"[\\n\uFFFD\\\"]" + json + "passes\"}\n= 0\n"},
+        {"--json all/b.rec | grep -o status.*", "status\":\"invalid\"}\n= 0\n"},
         {"--jobs 0 all 2>/dev/null", "= 2\n"},
         {"2>/dev/null", "= 2\n"},
         {"all >/dev/full", "tephrexcheck: standard output: No space left on device\n= 2\n"}};

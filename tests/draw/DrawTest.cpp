@@ -1,6 +1,7 @@
 #include "DrawTest.h"
 
 #include <QGuiApplication>
+#include <QImage>
 #include <QXmlStreamReader>
 #include <algorithm>
 #include <limits>
@@ -8,6 +9,7 @@
 #include <random>
 #include <set>
 
+#include "draw/Columns.h"
 #include "draw/Paint.h"
 #include "draw/Signs.h"
 #include "draw/Svg.h"
@@ -168,6 +170,7 @@ TEST(DrawTest, NoTextOverlapsAnotherOrLeavesThePageHoweverMuchThereIs) {
         {40, "a\nb\xE2\x80\xAE.rec", stacked + name, 32767, NarrowestSheet, 170},
         {500, name, "C:\\a.str", 20, 180, 255},
         {500, "b.rec", name, 7, 2000, AnyHeight},
+        {9, "b.rec", "", 20, 180, 1},  // less than a row needs
     };
     for (const Row& row : rows) {
         SCOPED_TRACE("row " + std::to_string(&row - rows));
@@ -280,6 +283,7 @@ TEST(DrawTest, APhaseIsDrawnByWhatItsTypeUses) {
         }
         EXPECT_EQ(drawn, row.marks) << "row " << &row - rows;
     }
+    EXPECT_EQ(TypeName({.eruptionType = EruptionType::None}), QStringList("No type"));
 }
 
 TEST(DrawTest, SignsAreAtTheirLocationsAndHaveTheirSizes) {
@@ -319,6 +323,37 @@ TEST(DrawTest, SignsAreAtTheirLocationsAndHaveTheirSizes) {
     EXPECT_EQ(heights[4], heights[2]);
 }
 
+TEST(DrawTest, WhatNoPhaseHasTakesNoRoom) {
+    Lettering lettering;
+    const TestRecord record;
+    const double whole = ColumnsOf(*record.state, {}, 180, lettering).mapEnd;
+    for (const Contents& had : {Contents{true}, Contents{false, true}, Contents{false, false, 1}}) {
+        EXPECT_LT(ColumnsOf(*record.state, had, 180, lettering).mapEnd, whole);
+    }
+}
+
+TEST(DrawTest, NoPointOfASignHasMovedUnnoticed) {
+    std::vector<Shape> shapes{DiatremeMark({}), BlastMark({}, 1),
+                              BurstMark({}, 1), RefusedMark({}),
+                              Wave({}, 4, 2),   Arrow(Mark::Wind, {}, 3, Palette::Ink)};
+    for (Integer type = 0; type <= LastEruptionType; ++type) {
+        shapes.push_back(SignOf(type, {}, 1));
+    }
+    for (Integer style = 0; style <= CalderaStyle::Valles; ++style) {
+        shapes.push_back(CalderaMark({}, style));
+    }
+    double sum = 0;
+    int weight = 0;
+    for (const Shape& shape : shapes) {
+        sum += ++weight * shape.style.width;
+        for (int i = 0; i < shape.path.elementCount(); ++i) {
+            const QPointF point = shape.path.elementAt(i);
+            sum += ++weight * (point.x() + 2 * point.y());
+        }
+    }
+    EXPECT_NEAR(sum, -891.0842770, 0.001);
+}
+
 TEST(DrawTest, WindFaultsScarpsAndFlowsPointTheirWay) {
     TestRecord record;
     record.Add(EruptionType::Plinian).wind = 20;
@@ -337,6 +372,9 @@ TEST(DrawTest, WindFaultsScarpsAndFlowsPointTheirWay) {
     record.state->LoadedFlows[6][1] = 600;
     record.state->LoadedFlows[6][2] = 1200;
     record.state->LoadedFlows[6][3] = 9000;
+    PhaseRecord& overflowing = record.Add(EruptionType::Hawaiian);
+    overflowing.burstCount = 1;
+    overflowing.flowLength = 32767;
     const Drawing drawing = Draw(record);
     const auto wind = [&drawing](int phase) {
         const QPainterPath path = ShapesOf(drawing, phase, Mark::Wind).at(0).path;
@@ -359,6 +397,7 @@ TEST(DrawTest, WindFaultsScarpsAndFlowsPointTheirWay) {
     EXPECT_NEAR(height(0), LargestSign / 2, 1e-6);
     EXPECT_NEAR(height(1), LargestSign, 1e-6);
     EXPECT_GT(height(2), LargestSign);
+    EXPECT_TRUE(ShapesOf(drawing, 7, Mark::Flows).empty()) << "has no ceiling";
 }
 
 TEST(DrawTest, ARefusedPhaseHasTheFirstMessageOfSaveAndTheNumberOfTheOthers) {
@@ -419,4 +458,9 @@ TEST(DrawTest, AnSvgIsWellFormedAndHasEachTextAsText) {
     EXPECT_EQ(shown, drawn);
     EXPECT_EQ(titles.value(0), drawing.title);
     EXPECT_EQ(titles.value(1), drawing.description);
+    EXPECT_TRUE(bytes.contains("fill=\"none\""));
+    const QImage picture = QImage::fromData(PngOf(drawing, 100));
+    QImage empty = picture;
+    empty.fill(Qt::white);
+    EXPECT_NE(picture, empty);
 }

@@ -105,6 +105,9 @@ TEST_F(FilesTest, ANameGetsItsExtensionAndNoFileIsReplacedUnasked) {
         EXPECT_EQ(Choose(opens, offered, typed), chosen) << typed;
         const bool asks = chosen.empty() || (!opens && std::filesystem::exists(chosen));
         EXPECT_EQ(!question.empty(), asks) << typed;
+        if (chosen.empty()) {
+            EXPECT_EQ(question, typed + "\nNo file can have this name.");
+        }
     }
 }
 

@@ -87,6 +87,8 @@ TEST_F(WindowTest, HelpIsReadByKeysAndKeepsItsPlaceUntilItIsClosed) {
     keyClick(&help, Qt::Key_W, Qt::ControlModifier);
     EXPECT_FALSE(help.isVisible());
     EXPECT_TRUE(window.isVisible());
+    viewer.ShowHelp(form.CD1);
+    EXPECT_EQ(page.textCursor().position(), 0);
 }
 
 TEST(HelpWindowTest, OpensBesideTheFormWhereThereIsRoom) {

@@ -200,6 +200,10 @@ TEST_F(ScreenTest, NothingIsCutOffInAnyFontAndStyle) {
                 const auto mark = QStyle::PM_IndicatorWidth;
                 const int size = widget->style()->pixelMetric(mark, nullptr, widget);
                 EXPECT_GE(size, widget->fontMetrics().ascent()) << name << points;
+                const QImage drawn = widget->grab().toImage();
+                QImage empty = drawn;
+                empty.fill(drawn.pixel(0, 0));
+                EXPECT_NE(drawn, empty) << name << points;
                 wanted.rwidth() += size;
             }
             if (auto* const box = list ? list->lineEdit() : qobject_cast<QLineEdit*>(widget)) {
