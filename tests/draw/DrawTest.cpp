@@ -446,6 +446,8 @@ TEST(DrawTest, AnSvgIsWellFormedAndHasEachTextAsText) {
             shown += xml.readElementText();
         } else if (xml.isStartElement() && (xml.name() == u"title" || xml.name() == u"desc")) {
             titles += xml.readElementText();
+        } else if (xml.isStartElement() && xml.name() == u"path") {
+            EXPECT_TRUE(xml.attributes().value("d").startsWith(u'M'));
         }
     }
     EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
