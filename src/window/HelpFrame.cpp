@@ -140,7 +140,9 @@ void HelpFrame::resizeEvent(QResizeEvent* event) {
 }
 
 void HelpFrame::showEvent(QShowEvent* event) {
-    page->setFocus();
+    if (!event->spontaneous()) {  // or restoring the window would take the focus from the box
+        page->setFocus();
+    }
     QWidget::showEvent(event);
 }
 
