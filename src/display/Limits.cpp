@@ -133,20 +133,26 @@ Fault FaultOf(const Check& check, const Judged& judged) {
 
 bool IsForFlows(const Check& check) { return check.test.field == nullptr; }
 
-// Each flow by itself, against each row for flows.
-void JudgeFlows(Judged judged, std::vector<Fault>& faults) {
-    bool overflowed = false;
-    for (int flow = 1; flow <= judged.phase.burstCount; ++flow) {
+// One flow by itself, against each row for flows; the row of the floor comes first. False if the
+// ceiling leaves 16 bits.
+bool JudgeFlow(Judged judged, int flow, std::vector<Fault>& faults) {
+    try {
         for (const Check& check : Checks) {
-            try {
-                if (IsForFlows(check) && check.test.failsFor(judged, flow)) {
-                    judged.badFlow = BadFlow{flow, true};
-                    faults.push_back(FaultOf(check, judged));
-                }
-            } catch (const std::overflow_error&) {
-                overflowed = true;
+            if (IsForFlows(check) && check.test.failsFor(judged, flow)) {
+                judged.badFlow = BadFlow{flow, &check.test == &FlowTooShort};
+                faults.push_back(FaultOf(check, judged));
             }
         }
+        return true;
+    } catch (const std::overflow_error&) {
+        return false;
+    }
+}
+
+void JudgeFlows(const Judged& judged, std::vector<Fault>& faults) {
+    bool overflowed = false;
+    for (int flow = 1; flow <= judged.phase.burstCount; ++flow) {
+        overflowed |= !JudgeFlow(judged, flow, faults);
     }
     if (overflowed) {
         const auto [lowest, highest] =

@@ -1,5 +1,5 @@
 // The limits that a phase must keep before it may reach a file, as one table. It judges one phase,
-// changes nothing and knows no form; who is told, and how, is in ApplyParams.
+// changes nothing and knows no form; what the user sees of a fault is in ApplyParams.
 #pragma once
 
 #include <optional>

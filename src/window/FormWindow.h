@@ -1,5 +1,5 @@
 // The window that carries the form: it makes the views as the catalogue says and leads the
-// toolkit's events and the form's changes together. How one control looks stands in Views.
+// toolkit's events and the form's changes together. How one control looks is in Views.
 #pragma once
 
 #include <QIcon>

@@ -1,6 +1,6 @@
 // A view: one control on the screen. It brings a widget up to date with its control, and hands
 // what the user does with the widget to the control's doors. The classes for the kinds of control
-// stand in Views.
+// are in Views.
 #pragma once
 
 #include <QColor>

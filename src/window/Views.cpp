@@ -56,7 +56,7 @@ public:
     void Update() override {
         const QString caption = ToScreen(control.Caption());
         if (IsOutputField()) {
-            // Of a long path the end tells more than the beginning.
+            // The end of a long path says more than its beginning.
             NameAloud(widget, caption);
             widget.setText(widget.fontMetrics().elidedText(caption, Qt::ElideLeft,
                                                            widget.contentsRect().width()));
@@ -80,7 +80,7 @@ class CheckBoxView : public ViewOf<CheckBox, QCheckBox> {
 public:
     explicit CheckBoxView(const Subject& subject) : ViewOf(subject) {
         EnlargeMark(widget);
-        widget.setLayoutDirection(Qt::RightToLeft);  // the box stands behind its caption
+        widget.setLayoutDirection(Qt::RightToLeft);  // the box comes after its caption
         connect(&widget, &QCheckBox::toggled, this, [this](bool checked) {
             if (checked != (control.Value() == 1)) {
                 OnUserAction([this] { control.Toggle(); });
