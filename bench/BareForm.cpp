@@ -17,19 +17,19 @@ QString ToText(std::string_view text) {
 QWidget* NewWidget(const CatalogueRow& row, QWidget* parent) {
     const QString caption = ToText(row.caption);
     switch (row.kind) {
-        case Kind::Frame: return new QGroupBox(caption, parent);
-        case Kind::Label: return new QLabel(caption, parent);
-        case Kind::TextBox: return new QLineEdit(parent);
-        case Kind::CheckBox: return new QCheckBox(caption, parent);
-        case Kind::OptionButton: return new QRadioButton(caption, parent);
-        case Kind::CommandButton: return new QPushButton(caption, parent);
-        case Kind::ComboBox: {
+        case ControlKind::Frame: return new QGroupBox(caption, parent);
+        case ControlKind::Label: return new QLabel(caption, parent);
+        case ControlKind::TextBox: return new QLineEdit(parent);
+        case ControlKind::CheckBox: return new QCheckBox(caption, parent);
+        case ControlKind::OptionButton: return new QRadioButton(caption, parent);
+        case ControlKind::CommandButton: return new QPushButton(caption, parent);
+        case ControlKind::ComboBox: {
             auto* const list = new QComboBox(parent);
             list->setEditable(true);
             list->setEditText(caption);
             return list;
         }
-        case Kind::CommonDialog: break;
+        case ControlKind::CommonDialog: break;
     }
     return nullptr;
 }

@@ -129,7 +129,7 @@ private:
             const TextBox& box = form.*row.box;
             const FieldRange& range = row.field.range;
             const Single value = form.NumberIn(box);
-            if (range.kind == FieldRange::Between &&
+            if (range.rule == FieldRange::Between &&
                 (value < range.low || value > range.high ||
                  box.Text() != form.TextOf(value, row.rewritten))) {
                 return "range of " + box.Name() + " with " + box.Text();

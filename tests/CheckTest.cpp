@@ -202,7 +202,7 @@ const Change Changes[] = {
 // A record of that phase, with two flows if the type has any, and one that passes after it.
 std::string Written(const PhaseRecord& phase, Single secondFlow) {
     static EditorState record;
-    record.RecordScale = Scale::Normal;
+    record.RecordScale = ScaleCode::Normal;
     record.LoadedPhaseCount = 2;
     record.LoadedPhases[1] = phase;
     record.LoadedPhases[2] = GoodPhase(EruptionType::Plinian);

@@ -133,7 +133,7 @@ TEST_F(FormTest, TheCatalogueHoldsTheControlsOfTheForm) {
         EXPECT_TRUE(row.frame.empty() || dynamic_cast<Frame*>(form.Find(row.frame))) << row.name;
         places += row.left + 2 * row.top + 3 * row.width + 4 * row.height + 5 * row.tab;
         ++kinds.at(static_cast<std::size_t>(row.kind));
-        if (row.kind != Kind::Label && !row.caption.empty()) {
+        if (row.kind != ControlKind::Label && !row.caption.empty()) {
             captions += std::string(row.caption) + '|';
         }
     }

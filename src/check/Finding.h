@@ -24,7 +24,7 @@ struct Finding {
     std::string field = {};  // the name of what is at fault; empty for a line as a whole
     std::string message = {};  // in words for the user
     std::string value = {};    // of the field, as a record has it; in quotes where it is a text
-    Limits passing = {};       // the values that would pass
+    Bounds passing = {};       // the values that would pass
     int phaseCount = 0;        // of an error in a phase: how many the record says it has
     bool showsLimit = false;   // whether the message leaves the last of them unsaid
 };

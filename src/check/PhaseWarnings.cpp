@@ -52,8 +52,8 @@ constexpr std::array<Code, 8> Codes{{
 }};
 
 bool BoxKeeps(const FieldRange& range, Single value) {
-    switch (range.kind) {
-        case FieldRange::Any: return true;
+    switch (range.rule) {
+        case FieldRange::AnyNumber: return true;
         case FieldRange::Between: return value >= range.low && value <= range.high;
         case FieldRange::AboveZero: return value > 0;
     }
@@ -61,7 +61,7 @@ bool BoxKeeps(const FieldRange& range, Single value) {
 }
 
 std::string Outside(const FieldRange& range) {
-    return range.kind == FieldRange::Between
+    return range.rule == FieldRange::Between
                ? " is outside " + ItemText(range.low) + " to " + ItemText(range.high)
                : " is not above 0";
 }

@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr std::array<Integer, 3> Scales{Scale::Small, Scale::Normal, Scale::Large};
+constexpr std::array<Integer, 3> Scales{ScaleCode::Small, ScaleCode::Normal, ScaleCode::Large};
 
 int ItemsOf(const PhaseRecord& phase) {
     return ItemPlace::FirstFlow + (HasFlows(phase) ? std::max<int>(phase.burstCount, 0) : 0);
@@ -97,8 +97,9 @@ void RecordCheck::LookAtHeader(const NotingReader& reader, bool warns) {
     if (warns && std::find(Scales.begin(), Scales.end(), scale) == Scales.end()) {
         const std::string text = ItemText(scale);
         Add(reader, {0, ItemPlace::RecordScale},
-            {.message = text + (scale == Scale::NotSet ? " is judged as 20"
-                                                       : " is none of the scales 4, 20 and 100"),
+            {.message =
+                 text + (scale == ScaleCode::NotSet ? " is judged as 20"
+                                                    : " is none of the scales 4, 20 and 100"),
              .value = text});
     }
     if (!IsStorable(state->StratFile)) {
@@ -118,7 +119,8 @@ void RecordCheck::LookAtPhase(const NotingReader& reader, int number, bool warns
                 {.message = message, .value = ValueText(ValueOf(phase, field))});
         });
     }
-    const Integer scale = state->RecordScale == Scale::NotSet ? Scale::Normal : state->RecordScale;
+    const Integer scale =
+        state->RecordScale == ScaleCode::NotSet ? ScaleCode::Normal : state->RecordScale;
     if (Passes(phase, flows, scale)) {
         return;
     }

@@ -117,7 +117,7 @@ std::string Remark(const Finding& finding) {
     return text.empty() ? "" : " (" + text + ")";
 }
 
-std::string Subject(const Finding& finding) {
+std::string PhaseOf(const Finding& finding) {
     if (finding.place.phase == 0 || finding.level == Level::Error) {
         return "";
     }
@@ -194,7 +194,7 @@ std::string TextLine(std::string_view name, const Finding& finding, bool coloure
     text += coloured ? Colour(finding.level) : "";
     text += LevelWord(finding.level);
     text += coloured ? ":\033[0m " : ": ";
-    return text + Subject(finding) + finding.message + Remark(finding) + '\n';
+    return text + PhaseOf(finding) + finding.message + Remark(finding) + '\n';
 }
 
 std::string ErrorLine(std::string_view name, const ReadFailure& failure, int phaseCount) {

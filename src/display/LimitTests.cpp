@@ -24,7 +24,7 @@ Single LastOnMap(double end, bool (*isOff)(Single, double), double factor) {
     return last;
 }
 
-Limits Anything(const Judged& /*judged*/) { return {}; }
+Bounds Anything(const Judged& /*judged*/) { return {}; }
 
 using P = PhaseRecord;
 
@@ -59,10 +59,10 @@ bool AnyDurationPasses(const Judged& j) {
            LongestFlow(j.phase, j.badFlow->flow) >= ShortestFlow(j.phase.eruptionType);
 }
 
-Limits LongEnough(const Judged& j) {
-    return AnyDurationPasses(j) ? Limits{ShortestFlow(j.phase.eruptionType), {}} : Limits{};
+Bounds LongEnough(const Judged& j) {
+    return AnyDurationPasses(j) ? Bounds{ShortestFlow(j.phase.eruptionType), {}} : Bounds{};
 }
-Limits ShortEnough(const Judged& j) {
+Bounds ShortEnough(const Judged& j) {
     if (!AnyDurationPasses(j)) {
         return {};
     }
@@ -77,7 +77,7 @@ bool IsBeforeMap(Single location, double factor) {
 
 bool IsAfterMap(Single location, double factor) { return MapPosition(location, factor) > MapEnd; }
 
-Limits OnMap(const Judged& judged) {
+Bounds OnMap(const Judged& judged) {
     const Single start = LastOnMap(MapStart, IsBeforeMap, judged.factor);
     const Single end = LastOnMap(MapEnd, IsAfterMap, judged.factor);
     return {std::min(start, end), std::max(start, end)};

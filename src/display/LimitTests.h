@@ -22,7 +22,7 @@ struct Judged {
 struct Test {
     bool (*fails)(Judged& judged);
     const PhaseField* field;  // null: the duration of a flow
-    Limits (*passing)(const Judged& judged);
+    Bounds (*passing)(const Judged& judged);
     std::optional<Single> (*correction)(const Judged& judged) = nullptr;
     bool (*failsFor)(const Judged& judged, int flow) = nullptr;  // one flow by itself
 };
@@ -31,25 +31,25 @@ template <auto Field, int Numerator, int Denominator>
 struct Floor {
     static constexpr Single Lowest = static_cast<Single>(Numerator) / Denominator;
     static bool Fails(Judged& judged) { return judged.phase.*Field < Lowest; }
-    static Limits Passing(const Judged& /*judged*/) { return {Lowest, {}}; }
+    static Bounds Passing(const Judged& /*judged*/) { return {Lowest, {}}; }
 };
 template <auto Field, int Numerator, int Denominator = 1>
 constexpr Test Below{Floor<Field, Numerator, Denominator>::Fails, &FieldOf(Field),
                      Floor<Field, Numerator, Denominator>::Passing};
 
-template <auto Field, int Limit>
+template <auto Field, int Most>
 struct Ceiling {
-    static constexpr Single Highest = static_cast<Single>(Limit);
+    static constexpr Single Highest = static_cast<Single>(Most);
     static bool Fails(Judged& judged) { return judged.phase.*Field > Highest; }
-    static Limits Passing(const Judged& /*judged*/) { return {{}, Highest}; }
+    static Bounds Passing(const Judged& /*judged*/) { return {{}, Highest}; }
 };
-template <auto Field, int Limit>
-constexpr Test Above{Ceiling<Field, Limit>::Fails, &FieldOf(Field), Ceiling<Field, Limit>::Passing};
+template <auto Field, int Most>
+constexpr Test Above{Ceiling<Field, Most>::Fails, &FieldOf(Field), Ceiling<Field, Most>::Passing};
 
 // `factor` is the MapFactor of the record.
 bool IsBeforeMap(Single location, double factor);
 bool IsAfterMap(Single location, double factor);
-Limits OnMap(const Judged& judged);
+Bounds OnMap(const Judged& judged);
 /// The location on the end of the map that this one has left, or itself.
 Single PutOnMap(Single location, double factor);
 

@@ -14,7 +14,7 @@ constexpr double MapEnd = 1230;
 constexpr double MapFactor(Integer recordScale) { return 1000.0 / recordScale; }
 
 /// The values that pass: from `lowest` to `highest`, both included, where there is a limit.
-struct Limits {
+struct Bounds {
     std::optional<Single> lowest;
     std::optional<Single> highest;
 };

@@ -200,11 +200,11 @@ std::vector<Fault> AllFaults(const PhaseRecord& phase, const FlowRow& flows, Int
     return faults;
 }
 
-Limits WidestLimits(const PhaseField& field, Integer recordScale) {
+Bounds WidestBounds(const PhaseField& field, Integer recordScale) {
     const PhaseRecord phase;
     const FlowRow flows;
     const Judged judged = Judging(phase, flows, recordScale);
-    Limits widest;
+    Bounds widest;
     for (const Check& check : Checks) {
         if (check.test.field == &field) {
             const auto [lowest, highest] = check.test.passing(judged);

@@ -14,7 +14,7 @@ struct Fault {
     std::string_view message;  // what follows "Phase n" in the report, with its first blank
     const PhaseField* field = nullptr;  // the field at fault; null for the duration of a flow
     int flow = 0;                       // the flow at fault, 0 if it is none
-    Limits passing;                     // empty where no value of this field alone would pass
+    Bounds passing;                     // empty where no value of this field alone would pass
     std::optional<Single> correction;   // what the field becomes before the fault is reported
 };
 
@@ -31,4 +31,4 @@ std::vector<Fault> AllFaults(const PhaseRecord& phase, const FlowRow& flows, Int
 
 /// The lowest and the highest value of a field with which a phase of any type can be saved at this
 /// scale, which is not 0.
-Limits WidestLimits(const PhaseField& field, Integer recordScale);
+Bounds WidestBounds(const PhaseField& field, Integer recordScale);

@@ -48,7 +48,7 @@ struct Columns {
 
 /// The scale by which a record is drawn: that of a new record if it has none.
 constexpr Integer ScaleOf(const EditorState& record) {
-    return record.RecordScale == Scale::NotSet ? Scale::Normal : record.RecordScale;
+    return record.RecordScale == ScaleCode::NotSet ? ScaleCode::Normal : record.RecordScale;
 }
 
 /// The name of the type of a phase in one or two lines.

@@ -9,10 +9,10 @@ constexpr double HeadGap = 3;
 
 QString ScaleName(Integer scale) {
     switch (scale) {
-        case Scale::Large: return "scale 100 (large)";
-        case Scale::Normal: return "scale 20 (normal)";
-        case Scale::Small: return "scale 4 (small)";
-        case Scale::NotSet: return "scale not set, drawn as 20";
+        case ScaleCode::Large: return "scale 100 (large)";
+        case ScaleCode::Normal: return "scale 20 (normal)";
+        case ScaleCode::Small: return "scale 4 (small)";
+        case ScaleCode::NotSet: return "scale not set, drawn as 20";
         default: return "scale " + Label(scale);
     }
 }
@@ -25,24 +25,24 @@ QString Shortened(const QString& text) {
 
 // A line of texts that begins or ends at x. Returns its lower edge: letters of some scripts are
 // taller than the line, and what is next has to keep clear of them.
-struct Piece {
+struct PlacedText {
     QString text;
     double x;
     Anchor anchor;
     Letters letters;
 };
 
-double AddLine(const std::vector<Piece>& pieces, double top, double height, Group& group,
+double AddLine(const std::vector<PlacedText>& texts, double top, double height, Group& group,
                Lettering& lettering) {
     double above = height * 0.75;
-    for (const Piece& piece : pieces) {
-        const Text text = lettering.Put(piece.text, {}, piece.anchor, piece.letters);
+    for (const PlacedText& each : texts) {
+        const Text text = lettering.Put(each.text, {}, each.anchor, each.letters);
         above = std::max(above, -text.room.top());
     }
     double bottom = top + above + height * 0.25;
-    for (const Piece& piece : pieces) {
+    for (const PlacedText& each : texts) {
         group.texts.push_back(
-            lettering.Put(piece.text, {piece.x, top + above}, piece.anchor, piece.letters));
+            lettering.Put(each.text, {each.x, top + above}, each.anchor, each.letters));
         bottom = std::max(bottom, group.texts.back().room.bottom());
     }
     return bottom;
@@ -67,7 +67,7 @@ Head HeadOf(const EditorState& record, const QString& name, PageNumber page, con
     constexpr double gap = 3;
     const double right = columns.End();
     const Letters& letters = page.number == 1 ? Heading : Sheet::Plain;
-    std::vector<Piece> line;
+    std::vector<PlacedText> line;
     double room = right - left;
     if (page.pages > 1) {
         const QString label = "page " + Label(page.number) + " of " + Label(page.pages);

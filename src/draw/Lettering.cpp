@@ -45,7 +45,7 @@ QFont MeasuredFont() {
     return font;
 }
 
-const Lettering::Extent& Lettering::Measure(const QString& text) {
+const Lettering::TextExtent& Lettering::Measure(const QString& text) {
     auto found = known.find(text);
     if (found == known.end()) {
         const bool keepsToLine = std::all_of(text.begin(), text.end(), KeepsToLine);
@@ -60,7 +60,7 @@ double Lettering::Width(const QString& text, const Letters& letters) {
 }
 
 Text Lettering::Put(const QString& text, QPointF at, Anchor anchor, const Letters& letters) {
-    const Extent& extent = Measure(text);
+    const TextExtent& extent = Measure(text);
     const double scale = letters.size / MeasuredSize;
     const double width = extent.advance * scale;
     const double left = anchor == Anchor::Left ? 0 : anchor == Anchor::Right ? width : width / 2;

@@ -41,16 +41,16 @@ public:
     QStringList Wrapped(const QString& text, double width, const Letters& letters);
 
 private:
-    struct Extent {
+    struct TextExtent {
         double advance;
         QRectF bounds;
     };
-    const Extent& Measure(const QString& text);
+    const TextExtent& Measure(const QString& text);
 
     QFont font = MeasuredFont();
     QFontMetricsF metrics{font};
     QRectF lineRoom = metrics.tightBoundingRect("Hgj()");  // what its letters cover above and below
-    QHash<QString, Extent> known;
+    QHash<QString, TextExtent> known;
 };
 
 /// The bytes of a name as a text that can be shown on one line: UTF-8, or Windows-1252 if they are

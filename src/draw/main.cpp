@@ -9,8 +9,8 @@
 #include <memory>
 
 #include "check/Wording.h"
+#include "draw/DrawOptions.h"
 #include "draw/Layout.h"
-#include "draw/Options.h"
 #include "draw/Output.h"
 #include "draw/Paint.h"
 #include "draw/Svg.h"
@@ -28,22 +28,22 @@ void SayOnlyErrors(QtMsgType type, const QMessageLogContext& /*context*/, const 
     }
 }
 
-QByteArray PictureOf(const EditorState& record, const Options& options) {
+QByteArray PictureOf(const EditorState& record, const DrawOptions& options) {
     constexpr double anyHeight = 1e9;
     constexpr double paper = 1.4142135623730951;  // of the A sizes
     const std::string name = std::filesystem::path(options.record).filename().string();
-    const bool paged = options.format == Format::Pdf;
+    const bool paged = options.format == PictureFormat::Pdf;
     const Drawing drawing =
         DrawRecord(record, name, {options.width, paged ? options.width * paper : anyHeight});
     switch (options.format) {
-        case Format::Svg: return SvgOf(drawing);
-        case Format::Png: return PngOf(drawing, options.dpi);
-        case Format::Pdf: return PdfOf(drawing);
+        case PictureFormat::Svg: return SvgOf(drawing);
+        case PictureFormat::Png: return PngOf(drawing, options.dpi);
+        case PictureFormat::Pdf: return PdfOf(drawing);
     }
     return {};
 }
 
-int Draw(const Options& options) {
+int Draw(const DrawOptions& options) {
     const auto record = std::make_unique<EditorState>();
     if (const ReadResult result = ReadRecordFile(options.record, *record); !result) {
         std::cerr << ErrorLine(options.record, *result.failure, record->LoadedPhaseCount) << '\n';
@@ -65,7 +65,7 @@ int main(int argc, char** argv) {
         QHashSeed::setDeterministicGlobalSeed();  // decides the order of the fonts in a PDF
         int programOnly = 1;                      // the options are not the toolkit's
         const QGuiApplication application(programOnly, argv);
-        const Options options = OptionsOf(argc, argv);
+        const DrawOptions options = OptionsOf(argc, argv);
         if (options.answer.empty()) {
             return Draw(options);
         }

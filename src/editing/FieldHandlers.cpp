@@ -76,8 +76,8 @@ constexpr CalderaRow Calderas[] = {
 }  // namespace
 
 void Field_Change(RecordEdit& form, const FieldBox& row) {
-    switch (row.field.range.kind) {
-        case FieldRange::Any: break;
+    switch (row.field.range.rule) {
+        case FieldRange::AnyNumber: break;
         case FieldRange::Between: HoldInRange(form, row); break;
         case FieldRange::AboveZero: LiftAboveZero(form, form.*row.box); break;
     }

@@ -40,7 +40,7 @@ constexpr std::array<FieldBox, 20> FieldBoxes{{
 static_assert(std::all_of(PhaseFields.begin(), PhaseFields.end(),
                           [](const PhaseField& field) {
                               const bool number =
-                                  field.range.kind != FieldRange::Any ||
+                                  field.range.rule != FieldRange::AnyNumber ||
                                   std::holds_alternative<Single PhaseRecord::*>(field.member);
                               return std::count_if(FieldBoxes.begin(), FieldBoxes.end(),
                                                    [&field](const FieldBox& row) {

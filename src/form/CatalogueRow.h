@@ -4,7 +4,7 @@
 
 #include <string_view>
 
-enum class Kind {
+enum class ControlKind {
     Frame,
     Label,
     TextBox,
@@ -30,7 +30,7 @@ enum class Look {
 /// `frame` is empty.
 struct CatalogueRow {
     std::string_view name;
-    Kind kind;
+    ControlKind kind;
     std::string_view frame;
     std::string_view caption;  // of a combo box: the text in its box
     int left;

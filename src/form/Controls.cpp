@@ -70,7 +70,7 @@ void OptionButton::Choose() {
     }
 }
 
-void TextBox::SetText(std::string_view newText) { Store(newText, AtEnd); }
+void TextBox::SetText(std::string_view newText) { ReplaceText(newText, AtEnd); }
 
 void TextBox::Select(std::size_t start, std::size_t length) {
     start = std::min(start, text.size());
@@ -81,17 +81,17 @@ void TextBox::Select(std::size_t start, std::size_t length) {
 void TextBox::PressKey(std::string_view newText, std::size_t caret) {
     if (OpenToUser()) {
         Raise(KeyPress);
-        Store(newText, caret);
+        ReplaceText(newText, caret);
     }
 }
 
 void TextBox::Edit(std::string_view newText, std::size_t caret) {
     if (OpenToUser()) {
-        Store(newText, caret);
+        ReplaceText(newText, caret);
     }
 }
 
-void TextBox::Store(std::string_view newText, std::size_t caret) {
+void TextBox::ReplaceText(std::string_view newText, std::size_t caret) {
     if (Assign(text, newText)) {
         Select(caret, 0);
         Raise(Change);

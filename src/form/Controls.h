@@ -195,7 +195,7 @@ public:
 
 private:
     void FocusCame() override { Raise(GotFocus); }
-    void Store(std::string_view newText, std::size_t caret);
+    void ReplaceText(std::string_view newText, std::size_t caret);
 
     std::string text;
     std::size_t selStart = 0;

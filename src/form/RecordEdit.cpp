@@ -8,16 +8,19 @@
 
 namespace {
 
-bool IsOfKind(const Control& control, Kind kind) {
+bool IsOfKind(const Control& control, ControlKind kind) {
     switch (kind) {
-        case Kind::Frame: return dynamic_cast<const Frame*>(&control) != nullptr;
-        case Kind::Label: return dynamic_cast<const Label*>(&control) != nullptr;
-        case Kind::TextBox: return dynamic_cast<const TextBox*>(&control) != nullptr;
-        case Kind::ComboBox: return dynamic_cast<const ComboBox*>(&control) != nullptr;
-        case Kind::CheckBox: return dynamic_cast<const CheckBox*>(&control) != nullptr;
-        case Kind::OptionButton: return dynamic_cast<const OptionButton*>(&control) != nullptr;
-        case Kind::CommandButton: return dynamic_cast<const CommandButton*>(&control) != nullptr;
-        case Kind::CommonDialog: return dynamic_cast<const CommonDialog*>(&control) != nullptr;
+        case ControlKind::Frame: return dynamic_cast<const Frame*>(&control) != nullptr;
+        case ControlKind::Label: return dynamic_cast<const Label*>(&control) != nullptr;
+        case ControlKind::TextBox: return dynamic_cast<const TextBox*>(&control) != nullptr;
+        case ControlKind::ComboBox: return dynamic_cast<const ComboBox*>(&control) != nullptr;
+        case ControlKind::CheckBox: return dynamic_cast<const CheckBox*>(&control) != nullptr;
+        case ControlKind::OptionButton:
+            return dynamic_cast<const OptionButton*>(&control) != nullptr;
+        case ControlKind::CommandButton:
+            return dynamic_cast<const CommandButton*>(&control) != nullptr;
+        case ControlKind::CommonDialog:
+            return dynamic_cast<const CommonDialog*>(&control) != nullptr;
     }
     return false;
 }

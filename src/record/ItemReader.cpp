@@ -11,27 +11,27 @@
 
 namespace {
 
-constexpr std::size_t Piece = 32768;
+constexpr std::size_t ReadSize = 32768;
 constexpr const char* TooLong = "an item is longer than 65,535 bytes";
 
-enum Kind : unsigned char { Plain = 0, Comma = 1, LineEnd = 2, Blank = 4, Quote = 8 };
+enum ByteClass : unsigned char { Plain = 0, Comma = 1, LineEnd = 2, Blank = 4, Quote = 8 };
 
-constexpr std::array<unsigned char, 256> Kinds = [] {
-    std::array<unsigned char, 256> kinds{};
-    kinds[','] = Comma;
-    kinds['\r'] = kinds['\n'] = LineEnd;
-    kinds[' '] = Blank;
-    kinds['"'] = Quote;
-    return kinds;
+constexpr std::array<unsigned char, 256> ByteClasses = [] {
+    std::array<unsigned char, 256> classes{};
+    classes[','] = Comma;
+    classes['\r'] = classes['\n'] = LineEnd;
+    classes[' '] = Blank;
+    classes['"'] = Quote;
+    return classes;
 }();
 
-unsigned KindOf(char c) { return Kinds[static_cast<unsigned char>(c)]; }
+unsigned ClassOf(char c) { return ByteClasses[static_cast<unsigned char>(c)]; }
 
 }  // namespace
 
 // Room for the longest unfinished item and one more piece.
 ItemReader::ItemReader(std::streambuf& stream)
-    : source(stream), buffer(std::make_unique_for_overwrite<char[]>(LongestItem + Piece)) {}
+    : source(stream), buffer(std::make_unique_for_overwrite<char[]>(LongestItem + ReadSize)) {}
 
 std::string_view ItemReader::Text() {
     Next(Comma | LineEnd);
@@ -60,8 +60,8 @@ void ItemReader::Read(Integer& value) {
     value = *rounded;
 }
 
-bool ItemReader::Is(std::size_t position, unsigned kinds) const {
-    return (KindOf(buffer[position]) & kinds) != 0;
+bool ItemReader::Is(std::size_t position, unsigned classes) const {
+    return (ClassOf(buffer[position]) & classes) != 0;
 }
 
 // A number as files mostly have it, with its separator in the buffer, needs no second look. False,
@@ -97,7 +97,7 @@ std::string_view ItemReader::Next(unsigned ends) {
     SkipWhile([this] { return Is(at, Blank); });
     itemLine = line;
     if (!More()) {
-        itemLine -= (KindOf(lastByte) & LineEnd) != 0 ? 1 : 0;
+        itemLine -= (ClassOf(lastByte) & LineEnd) != 0 ? 1 : 0;
         throw ReadError("the file ends before the record does");
     }
     const bool quoted = Is(at, Quote);
@@ -179,7 +179,8 @@ void ItemReader::SkipWhile(Condition condition) {
     }
 }
 
-// The length of the item at `at`, which ends before a character of these kinds or with the stream.
+// The length of the item at `at`, which ends before a character of these classes or with the
+// stream.
 std::size_t ItemReader::Measure(unsigned ends) {
     std::size_t length = 0;
     do {
@@ -202,7 +203,7 @@ bool ItemReader::Refill() {
     std::memmove(buffer.get(), buffer.get() + at, end - at);
     end -= at;
     at = 0;
-    const std::streamsize got = source.sgetn(buffer.get() + end, Piece);
+    const std::streamsize got = source.sgetn(buffer.get() + end, ReadSize);
     ended = got <= 0;
     if (!ended) {
         end += static_cast<std::size_t>(got);

@@ -61,7 +61,7 @@ private:
     // What is still between the last item and the next.
     enum class Pending { Nothing, Separator, Rest };
 
-    bool Is(std::size_t position, unsigned kinds) const;
+    bool Is(std::size_t position, unsigned classes) const;
     template <class Number>
     bool ReadInPlace(Number& value);
     template <class Number>

@@ -17,11 +17,11 @@ using FieldMember = std::variant<Single PhaseRecord::*, Integer PhaseRecord::*>;
 
 /// What the box of a field makes of a number.
 struct FieldRange {
-    enum Kind {
-        Any,        // any number is stored
+    enum Rule {
+        AnyNumber,  // any number is stored
         Between,    // the number is held in low..high
         AboveZero,  // a number at or below 0 becomes 1
-    } kind;
+    } rule;
     Single low = 0;
     Single high = 0;
 };
@@ -37,7 +37,7 @@ namespace PhaseFieldTable {
 
 using P = PhaseRecord;
 
-constexpr FieldRange Any{FieldRange::Any};
+constexpr FieldRange Any{FieldRange::AnyNumber};
 constexpr FieldRange AboveZero{FieldRange::AboveZero};
 constexpr FieldRange Between(Single low, Single high) { return {FieldRange::Between, low, high}; }
 

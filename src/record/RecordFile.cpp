@@ -16,7 +16,7 @@
 
 namespace {
 
-constexpr std::size_t Piece = 16384;
+constexpr std::size_t WriteSize = 16384;
 
 constexpr std::string_view Comma = ",";
 constexpr std::string_view LineEnd = "\r\n";
@@ -48,7 +48,7 @@ public:
     }
     void End(std::string_view after) {
         text += after;
-        if (text.size() >= Piece) {
+        if (text.size() >= WriteSize) {
             Flush();
         }
     }

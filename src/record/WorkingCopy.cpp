@@ -16,13 +16,13 @@ void ShowPaths(RecordEdit& form) {
 
 // A code of no option leaves the selection where it is.
 void SelectScale(RecordEdit& form) {
-    if (form.RecordScale == Scale::NotSet) {
-        form.RecordScale = Scale::Normal;
+    if (form.RecordScale == ScaleCode::NotSet) {
+        form.RecordScale = ScaleCode::Normal;
     }
     switch (form.RecordScale) {
-        case Scale::Large: form.optLarge.SetValue(true); break;
-        case Scale::Normal: form.optNormal.SetValue(true); break;
-        case Scale::Small: form.optSmall.SetValue(true); break;
+        case ScaleCode::Large: form.optLarge.SetValue(true); break;
+        case ScaleCode::Normal: form.optNormal.SetValue(true); break;
+        case ScaleCode::Small: form.optSmall.SetValue(true); break;
         default: break;
     }
 }
@@ -71,7 +71,7 @@ void cmdReset_Click(RecordEdit& form) {
     if (form.labRecfile.Caption() == NewRecordCaption) {
         form.LoadedPhaseCount = 0;
         form.StratFile.clear();
-        form.RecordScale = Scale::NotSet;
+        form.RecordScale = ScaleCode::NotSet;
     }
     ReadData(form);
     form.Command2.SetEnabled(false);

@@ -73,9 +73,9 @@ void labRecfile_MouseMove(RecordEdit& form) {
                                        : "Currently opened recorder file");
 }
 
-void optLarge_Click(RecordEdit& form) { ChooseScale(form, Scale::Large); }
-void optNormal_Click(RecordEdit& form) { ChooseScale(form, Scale::Normal); }
-void optSmall_Click(RecordEdit& form) { ChooseScale(form, Scale::Small); }
+void optLarge_Click(RecordEdit& form) { ChooseScale(form, ScaleCode::Large); }
+void optNormal_Click(RecordEdit& form) { ChooseScale(form, ScaleCode::Normal); }
+void optSmall_Click(RecordEdit& form) { ChooseScale(form, ScaleCode::Small); }
 
 void cmdHelp_Click(RecordEdit& form) {
     form.CD1.HelpContext = EditorTopic;

@@ -14,10 +14,10 @@ constexpr QColor PaleYellow(255, 255, 192);
 
 }  // namespace
 
-TextBoxView::TextBoxView(const Subject& subject) : ViewOf(subject) {
+TextBoxView::TextBoxView(const ViewParts& parts) : ViewOf(parts) {
     widget.setAlignment(Qt::AlignCenter);
     if (Row().look != Look::AnyText) {
-        widget.TypeDecimals(subject.separators.decimal);
+        widget.TypeDecimals(parts.separators.decimal);
     }
     connect(&widget, &LineBox::KeyPressed, this, [this] { OnUserAction([this] { TakeKey(); }); });
     connect(&widget, &LineBox::Edited, this, [this] { OnUserAction([this] { TakeEdit(); }); });
@@ -95,7 +95,7 @@ void TextBoxView::ShowSelection() {
     }
 }
 
-ComboBoxView::ComboBoxView(const Subject& subject) : ViewOf(subject) {
+ComboBoxView::ComboBoxView(const ViewParts& parts) : ViewOf(parts) {
     QPalette pale = PalePalette(widget.palette(), PaleYellow);
     widget.setPalette(pale);  // the frame shows the focus in the desktop's colour
     pale.setColor(QPalette::Highlight, QColor(0, 84, 147));

@@ -8,7 +8,7 @@
 
 class TextBoxView : public ViewOf<TextBox, LineBox> {
 public:
-    explicit TextBoxView(const Subject& subject);
+    explicit TextBoxView(const ViewParts& parts);
 
     void Update() override;
     QSize SizeWith(const QString& text) override { return widget.SizeFor(text); }
@@ -27,7 +27,7 @@ private:
 
 class ComboBoxView : public ViewOf<ComboBox, ListBox> {
 public:
-    explicit ComboBoxView(const Subject& subject);
+    explicit ComboBoxView(const ViewParts& parts);
 
     void Update() override;
     QSize SizeWith(const QString& text) override { return widget.SizeFor(text); }

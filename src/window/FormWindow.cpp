@@ -11,8 +11,8 @@
 
 #include "form/Catalogue.h"
 #include "window/Access.h"
+#include "window/FormScale.h"
 #include "window/PlainLabels.h"
-#include "window/Scale.h"
 #include "window/ScreenText.h"
 #include "window/Shortcuts.h"
 #include "window/SizeLimits.h"
@@ -21,7 +21,7 @@
 namespace {
 
 bool TakesFocus(const View& view) {
-    return view.Row().kind != Kind::Label && view.Row().kind != Kind::Frame;
+    return view.Row().kind != ControlKind::Label && view.Row().kind != ControlKind::Frame;
 }
 
 std::vector<View*> InTabOrder(const Views& views) {

@@ -5,8 +5,8 @@
 
 #include "window/ScreenText.h"
 
-View::View(const Subject& subject, QWidget& ownWidget)
-    : original(subject.control), row(subject.row), widget(ownWidget), mirror(subject.mirror) {
+View::View(const ViewParts& parts, QWidget& ownWidget)
+    : original(parts.control), row(parts.row), widget(ownWidget), mirror(parts.mirror) {
     widget.setObjectName(ToScreen(row.name));
     widget.setMouseTracking(true);
     widget.ensurePolished();

@@ -17,7 +17,7 @@
 #include "window/Mirror.h"
 
 /// What a view is made of: a control, its row of the catalogue, the widget to sit on.
-struct Subject {
+struct ViewParts {
     Control& control;
     const CatalogueRow& row;
     QWidget* parent;
@@ -27,8 +27,8 @@ struct Subject {
 
 class View : public QObject, public Mirrored {
 public:
-    /// The widget belongs to the subject's parent.
-    View(const Subject& subject, QWidget& ownWidget);
+    /// The widget belongs to the parts's parent.
+    View(const ViewParts& parts, QWidget& ownWidget);
 
     Control& Original() const { return original; }
     const CatalogueRow& Row() const { return row; }
@@ -79,19 +79,19 @@ private:
 using Views = std::vector<std::unique_ptr<View>>;
 
 /// A view that knows the kinds of its control and of its widget.
-template <class ControlKind, class WidgetKind>
+template <class ControlType, class WidgetType>
 class ViewOf : public View {
 public:
-    explicit ViewOf(const Subject& subject) : ViewOf(subject, *new WidgetKind(subject.parent)) {}
+    explicit ViewOf(const ViewParts& parts) : ViewOf(parts, *new WidgetType(parts.parent)) {}
 
 protected:
-    ControlKind& control;
-    WidgetKind& widget;
+    ControlType& control;
+    WidgetType& widget;
 
 private:
-    ViewOf(const Subject& subject, WidgetKind& ownWidget)
-        : View(subject, ownWidget),
-          control(dynamic_cast<ControlKind&>(subject.control)),
+    ViewOf(const ViewParts& parts, WidgetType& ownWidget)
+        : View(parts, ownWidget),
+          control(dynamic_cast<ControlType&>(parts.control)),
           widget(ownWidget) {}
 };
 

@@ -42,7 +42,7 @@ public:
 
 class LabelView : public ViewOf<Label, QLabel> {
 public:
-    explicit LabelView(const Subject& subject) : ViewOf(subject) {
+    explicit LabelView(const ViewParts& parts) : ViewOf(parts) {
         const bool left = Row().look == Look::LeftAligned;
         widget.setAlignment(Qt::AlignVCenter | (left ? Qt::AlignLeft : Qt::AlignRight));
         if (IsOutputField()) {
@@ -78,7 +78,7 @@ private:
 
 class CheckBoxView : public ViewOf<CheckBox, QCheckBox> {
 public:
-    explicit CheckBoxView(const Subject& subject) : ViewOf(subject) {
+    explicit CheckBoxView(const ViewParts& parts) : ViewOf(parts) {
         EnlargeMark(widget);
         widget.setLayoutDirection(Qt::RightToLeft);  // the box comes after its caption
         connect(&widget, &QCheckBox::toggled, this, [this](bool checked) {
@@ -140,7 +140,7 @@ private:
 
 class OptionButtonView : public ViewOf<OptionButton, OptionWidget> {
 public:
-    explicit OptionButtonView(const Subject& subject) : ViewOf(subject) {
+    explicit OptionButtonView(const ViewParts& parts) : ViewOf(parts) {
         EnlargeMark(widget);
         widget.setAutoExclusive(false);  // or the Tab key would reach one of the group only
         connect(&widget, &QRadioButton::toggled, this, [this](bool checked) {
@@ -165,7 +165,7 @@ public:
 
 class CommandButtonView : public ViewOf<CommandButton, QPushButton> {
 public:
-    explicit CommandButtonView(const Subject& subject) : ViewOf(subject) {
+    explicit CommandButtonView(const ViewParts& parts) : ViewOf(parts) {
         widget.setAutoDefault(true);  // Enter presses the button that has the focus
         if (Row().look == Look::OpenPicture) {
             ShowPicture();
@@ -202,16 +202,16 @@ private:
 
 }  // namespace
 
-std::unique_ptr<View> NewView(const Subject& subject) {
-    switch (subject.row.kind) {
-        case Kind::Frame: return std::make_unique<FrameView>(subject);
-        case Kind::Label: return std::make_unique<LabelView>(subject);
-        case Kind::TextBox: return std::make_unique<TextBoxView>(subject);
-        case Kind::ComboBox: return std::make_unique<ComboBoxView>(subject);
-        case Kind::CheckBox: return std::make_unique<CheckBoxView>(subject);
-        case Kind::OptionButton: return std::make_unique<OptionButtonView>(subject);
-        case Kind::CommandButton: return std::make_unique<CommandButtonView>(subject);
-        case Kind::CommonDialog: break;
+std::unique_ptr<View> NewView(const ViewParts& parts) {
+    switch (parts.row.kind) {
+        case ControlKind::Frame: return std::make_unique<FrameView>(parts);
+        case ControlKind::Label: return std::make_unique<LabelView>(parts);
+        case ControlKind::TextBox: return std::make_unique<TextBoxView>(parts);
+        case ControlKind::ComboBox: return std::make_unique<ComboBoxView>(parts);
+        case ControlKind::CheckBox: return std::make_unique<CheckBoxView>(parts);
+        case ControlKind::OptionButton: return std::make_unique<OptionButtonView>(parts);
+        case ControlKind::CommandButton: return std::make_unique<CommandButtonView>(parts);
+        case ControlKind::CommonDialog: break;
     }
     return nullptr;
 }

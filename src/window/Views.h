@@ -8,4 +8,4 @@
 
 /// Makes the view of a control with its widget. Null for a kind that is not on the screen.
 /// The control has to be of the kind that its row names.
-std::unique_ptr<View> NewView(const Subject& subject);
+std::unique_ptr<View> NewView(const ViewParts& parts);

@@ -39,7 +39,7 @@ Texts InRange(const RecordEdit& form, const FieldBox& row) {
 // Of a number that any phase can be saved with, at the scale with the widest map.
 Texts WithinLimits(const RecordEdit& form, const FieldBox& row) {
     Texts texts;
-    const Limits limits = WidestLimits(row.field, Scale::Large);
+    const Bounds limits = WidestBounds(row.field, ScaleCode::Large);
     for (const auto& limit : {limits.lowest, limits.highest}) {
         if (limit) {
             texts.push_back(form.TextOf(*limit, row.onShow));
@@ -49,9 +49,9 @@ Texts WithinLimits(const RecordEdit& form, const FieldBox& row) {
 }
 
 Texts NumbersIn(const RecordEdit& form, const FieldBox& row) {
-    switch (row.field.range.kind) {
+    switch (row.field.range.rule) {
         case FieldRange::Between: return InRange(form, row);
-        case FieldRange::Any: return WithinLimits(form, row);
+        case FieldRange::AnyNumber: return WithinLimits(form, row);
         case FieldRange::AboveZero:
             return {form.TextOf(std::numeric_limits<Integer>::max(), row.onShow)};
     }

@@ -13,7 +13,7 @@
 struct TestRecord {
     std::unique_ptr<EditorState> state = std::make_unique<EditorState>();
 
-    explicit TestRecord(Integer scale = Scale::Normal) { state->RecordScale = scale; }
+    explicit TestRecord(Integer scale = ScaleCode::Normal) { state->RecordScale = scale; }
 
     /// A phase of a type in the middle of the map that Save would take.
     PhaseRecord& Add(Integer type);

@@ -1,4 +1,4 @@
-#include "draw/Options.h"
+#include "draw/DrawOptions.h"
 
 #include <QCommandLineParser>
 #include <array>
@@ -30,13 +30,14 @@ double NumberOf(const QCommandLineParser& parser, const QCommandLineOption& opti
     return number;
 }
 
-Format FormatOf(const QString& output) {
+PictureFormat FormatOf(const QString& output) {
     struct Ending {
         const char* text;
-        Format format;
+        PictureFormat format;
     };
-    constexpr std::array endings{Ending{".svg", Format::Svg}, Ending{".png", Format::Png},
-                                 Ending{".pdf", Format::Pdf}};
+    constexpr std::array endings{Ending{".svg", PictureFormat::Svg},
+                                 Ending{".png", PictureFormat::Png},
+                                 Ending{".pdf", PictureFormat::Pdf}};
     for (const Ending& ending : endings) {
         if (output.endsWith(ending.text, Qt::CaseInsensitive)) {
             return ending.format;
@@ -71,11 +72,11 @@ struct CommandLine {
     }
 };
 
-Options PictureOf(const CommandLine& line) {
+DrawOptions PictureOf(const CommandLine& line) {
     if (line.parser.positionalArguments().size() != 1) {
         throw WrongUse("name one record; --help shows how");
     }
-    Options options;
+    DrawOptions options;
     options.record = Bytes(line.parser.positionalArguments().front());
     if (line.parser.isSet(line.output)) {
         options.output = Bytes(line.parser.value(line.output));
@@ -88,9 +89,9 @@ Options PictureOf(const CommandLine& line) {
 
 }  // namespace
 
-Options OptionsOf(int argc, char** argv) {
+DrawOptions OptionsOf(int argc, char** argv) {
     const CommandLine line(argc, argv);
-    Options options;
+    DrawOptions options;
     if (line.parser.isSet(line.help)) {
         options.answer = line.parser.helpText().toStdString();
     } else if (line.parser.isSet(line.version)) {

@@ -4,12 +4,12 @@
 #include <stdexcept>
 #include <string>
 
-enum class Format { Svg, Png, Pdf };
+enum class PictureFormat { Svg, Png, Pdf };
 
-struct Options {
+struct DrawOptions {
     std::string record;  // bytes, as they are on the command line
     std::string output;  // empty for standard output
-    Format format = Format::Svg;
+    PictureFormat format = PictureFormat::Svg;
     double width = 0;  // millimetres
     double dpi = 0;
     std::string answer;  // what to print instead of drawing: the help or the version
@@ -21,4 +21,4 @@ struct WrongUse : std::runtime_error {
 };
 
 /// Throws WrongUse.
-Options OptionsOf(int argc, char** argv);
+DrawOptions OptionsOf(int argc, char** argv);

@@ -1,4 +1,4 @@
-#include "window/Scale.h"
+#include "window/FormScale.h"
 
 #include <algorithm>
 #include <cmath>
@@ -14,7 +14,7 @@ constexpr double UsualScale = 96.0 / 1440;
 int Headroom(const CatalogueRow& row) {
     int room = row.height;
     for (const CatalogueRow& other : Catalogue()) {
-        if (row.kind == Kind::Frame && other.frame == row.name) {
+        if (row.kind == ControlKind::Frame && other.frame == row.name) {
             room = std::min(room, other.top);
         }
     }
@@ -22,9 +22,10 @@ int Headroom(const CatalogueRow& row) {
 }
 
 bool Covers(const CatalogueRow& upper, const CatalogueRow& lower) {
-    return upper.frame == lower.frame && upper.tab > lower.tab && upper.kind != Kind::Label &&
-           upper.left > lower.left && upper.left < lower.left + lower.width &&
-           upper.top < lower.top + lower.height && lower.top < upper.top + upper.height;
+    return upper.frame == lower.frame && upper.tab > lower.tab &&
+           upper.kind != ControlKind::Label && upper.left > lower.left &&
+           upper.left < lower.left + lower.width && upper.top < lower.top + lower.height &&
+           lower.top < upper.top + upper.height;
 }
 
 // Borders and arrows can grow with the height, so that a larger scale asks for one larger still. As
@@ -54,7 +55,7 @@ int ToPixels(int twips, double scale) { return static_cast<int>(std::lround(twip
 int CoveredWidth(const CatalogueRow& row) {
     int covered = 0;
     for (const CatalogueRow& other : Catalogue()) {
-        if (row.kind != Kind::Label && Covers(other, row)) {
+        if (row.kind != ControlKind::Label && Covers(other, row)) {
             covered = std::max(covered, row.left + row.width - other.left);
         }
     }
