@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # pictures.sh PROGRAM: makes the pictures of the README again, from the running program with the
-# demonstration record, and from tephrexdraw, which is beside it.
+# demonstration record, and the drawings, with tephrexdraw, which is beside it. Look at them before
+# they are committed: the tests expect these drawings from then on.
 . "$(dirname "$0")/lib.sh"
 
 install_missing "${screen_packages[@]}"
@@ -39,5 +40,7 @@ keys Return
 await_gone "^TephrexEdit$"
 close_editor
 
-"${1%/*}/tephrexdraw" --dpi 144 -o docs/history.png data/TephrexDemo.rec
-echo docs/history.png
+export FONTCONFIG_FILE=$PWD/tests/draw/fonts.conf
+"${1%/*}/tephrexdraw" -o docs/history.svg data/TephrexDemo.rec
+"${1%/*}/tephrexdraw" -o tests/draw/every.svg tests/draw/every.rec
+echo docs/history.svg tests/draw/every.svg

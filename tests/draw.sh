@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# draw.sh PROGRAM DATA: runs tephrexdraw on the demonstration record as a user would, without a
-# display.
+# draw.sh PROGRAM: runs tephrexdraw on the demonstration record as a user would, without a display.
 draw=$(realpath "$1")
-record=$(realpath "$2")/TephrexDemo.rec
+project=$(realpath "$(dirname "$0")/..")
+record=$project/data/TephrexDemo.rec
 set -euo pipefail
 folder=$(mktemp -d)
 trap 'rm -rf "$folder"' EXIT
@@ -29,6 +29,15 @@ case $(head -c 24 1.png | od -An -tx1 | tr -d ' \n') in
     *0000058a0000*) ;;
     *) give_up "a PNG of 180 mm at 200 dpi is 1418 pixels wide" ;;
 esac
+
+# Two drawings, down to the last point and colour: the README's, and one of a record with every sign,
+# many invalid values and the ends of the map. scripts/pictures.sh makes them again.
+[ -e /usr/share/fonts/truetype/dejavu/DejaVuSans.ttf ] || give_up "needs fonts-dejavu-core"
+export FONTCONFIG_FILE=$project/tests/draw/fonts.conf
+"$draw" "$record" | diff "$project/docs/history.svg" - || give_up "the README has another drawing"
+"$draw" "$project/tests/draw/every.rec" | diff "$project/tests/draw/every.svg" - ||
+    give_up "every.rec is drawn otherwise"
+unset FONTCONFIG_FILE
 
 # refused LINE ARGUMENT...: status 2, that one line, and nothing new in the folder.
 refused() {
