@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "Acts.h"
+#include "RandomUser.h"
 #include "Require.h"
 
 namespace {
@@ -11,7 +11,7 @@ class FuzzedForm : public FormTest {
 public:
     void Run(const std::uint8_t* byte, const std::uint8_t* end) {
         SetUp();
-        User user(form, platform, folder, [&byte, end](std::size_t below) {
+        RandomUser user(form, platform, folder, [&byte, end](std::size_t below) {
             std::size_t choice = 0;
             for (std::size_t reach = 1; reach < below && byte != end; reach *= 256) {
                 choice = choice * 256 + *byte++;

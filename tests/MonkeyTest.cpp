@@ -2,7 +2,7 @@
 // for another seed (TEPHREX_MONKEY_SEED) and a longer run (TEPHREX_MONKEY_ACTS).
 #include <random>
 
-#include "Acts.h"
+#include "RandomUser.h"
 
 namespace {
 
@@ -11,8 +11,8 @@ using MonkeyTest = FormTest;
 TEST_F(MonkeyTest, NothingBreaksWhateverTheUserDoes) {
     const unsigned long seed = FromEnvironment("TEPHREX_MONKEY_SEED", 1);
     std::mt19937_64 generator(seed);
-    User user(form, platform, folder,
-              [&generator](std::size_t below) { return generator() % below; });
+    RandomUser user(form, platform, folder,
+                    [&generator](std::size_t below) { return generator() % below; });
     std::string acts;
     for (unsigned long i = FromEnvironment("TEPHREX_MONKEY_ACTS", 20000); i > 0; --i) {
         acts = acts.substr(acts.size() - std::min<std::size_t>(acts.size(), 2000));

@@ -1,4 +1,7 @@
-// The text form of a record: what reads, what it leaves, and what is written byte for byte.
+// The text form of a record: what can be read, what a read stores, and what is written byte for
+// byte.
+#include <cmath>
+
 #include "TestForm.h"
 
 namespace {
@@ -10,7 +13,7 @@ const std::string Sample = Replaced(
     "\n\"Record Phase: \",2\n12.5,3,1,10\n2000,0,0,0\n0,0,2,0\n0,0,0,0,0\n5,5,20,5,5,5\n0,0,0,0\n"
     "300\n1200\n", "\n", "\r\n");
 
-// A number of its own for every field; then Singles of every form, and bursts that are no flows.
+// A different number in every field; then Singles of every form, and bursts that are not flows.
 const std::string Distinct = Replaced(
     "\"Stratigraphic file:\",\"C\"\n\"Recorded phases\",2,-7\n"
     "\n\"Record Phase: \",1\n1.5,4,3.5,-4\n5.25,6,7,8\n9,10,1,17\n12,13,14,15,16\n"
@@ -20,7 +23,7 @@ const std::string Distinct = Replaced(
 const PhaseRecord DistinctPhase{1.5F, 4, 3.5F, -4, 5.25F, 6, 7, 8, 9, 10, 1, 12, 13, 14, 15, 16,
                                 17, 18, 19, 20, 21, 22, 23, 24, 25, 26, -0.125F};
 
-const std::pair<std::string, std::string> ChangesOfTheFormOnly[] = {
+const std::pair<std::string, std::string> AcceptedVariants[] = {
     {"@", ""}, {"\r\n", "\n"}, {"\r\n", "\r"}, {"\r\n", "  \r\n"}, {",", "\n"}, {",", "  ,   "},
     {"12.5,", "12.5 "}, {"12.5", "+.125E2"}, {"2000", "\"2.e+3\" dropped \"this"}, {",0", ",-0"},
     {"\"Record Phase: \"", " any words "}, {"\"Recorded phases\"", "\"a,\r\nb\""},
@@ -40,7 +43,7 @@ struct RecordTest : testing::Test, EditorState {
     }
 };
 
-TEST_F(RecordTest, EveryFieldHasItsPlaceAndOnlyTypesWithFlowsHaveFlowLines) {
+TEST_F(RecordTest, EachFieldHasItsPlaceAndOnlyTypesWithFlowsHaveFlowLines) {
     LoadedFlows[2][1] = 77;
     ASSERT_TRUE(Read(Distinct));
     EXPECT_EQ(LoadedPhases[1], DistinctPhase);
@@ -49,8 +52,8 @@ TEST_F(RecordTest, EveryFieldHasItsPlaceAndOnlyTypesWithFlowsHaveFlowLines) {
     EXPECT_THROW(LoadedFlows[-1], std::out_of_range);
 }
 
-TEST_F(RecordTest, WhatTheReaderTakesComesOutInTheFormOfTheWriter) {
-    for (const auto& [from, to] : ChangesOfTheFormOnly) {
+TEST_F(RecordTest, AcceptedVariantsAreWrittenInStandardForm) {
+    for (const auto& [from, to] : AcceptedVariants) {
         LoadedPhases.Clear();
         LoadedFlows.Clear();
         EXPECT_TRUE(Read(Replaced(Sample, from, to)));
@@ -58,6 +61,58 @@ TEST_F(RecordTest, WhatTheReaderTakesComesOutInTheFormOfTheWriter) {
     }
     ASSERT_TRUE(Read(Replaced(Sample, "20\r\n\r\n", "20\r\n")));  // every item moves by a place
     EXPECT_TRUE(LoadedPhases[1].wind == 2000 && LoadedPhases[2].rightAngle == 300);
+}
+
+TEST_F(RecordTest, AHeaderIsKeptAsFarAsItWasRead) {
+    // Items end at a comma, a line end or a quote.
+    // clang-format off
+    const struct { std::string bytes; bool whole; std::string reference; int count, scale; } rows[] = {
+        {{"a,  my \xFF\0 file  \nb c , 0 4", 26}, true, {"my \xFF\0 file", 10}, 0, 4},
+        {"\"a\" x \"y\n \" b,\r\n \" \"z,c\n0,4", true, " b,\r\n ", 0, 4},
+        {"a,\nb,0,\n", true, "", 0, 0},            {"a,b\n\nc,0,4", true, "b", 0, 0},
+        {"a,\"b\nc,0,4", false, "b\nc,0,4", 7, 9}, {"a,b\nc,0,  ", false, "b", 0, 9},
+        {"a,b\nc,-1,4", false, "b", 7, 9},         {"a,b\nc,501,4", false, "b", 7, 9},
+        {"a,b\nc,500,4", false, "b", 500, 4},      {"a,b\nc,0,32768", false, "b", 0, 9},
+        {"a,b\nc,12abc,4", true, "b", 0, 4},       {" ", false, "old", 7, 9}};
+    // clang-format on
+    for (const auto& row : rows) {
+        StratFile = "old";
+        LoadedPhaseCount = 7;
+        RecordScale = 9;
+        EXPECT_EQ(Read(row.bytes), row.whole) << row.bytes;
+        EXPECT_EQ(std::tie(StratFile, LoadedPhaseCount, RecordScale),
+                  std::tie(row.reference, row.count, row.scale))
+            << row.bytes;
+        EXPECT_EQ(LoadedPhases[1], PhaseRecord{});
+    }
+}
+
+TEST_F(RecordTest, AnItemThatIsNoNumberIsZeroAndOneTooLargeEndsTheRead) {
+    constexpr Integer kept = 77;
+    const std::string zeros(400, '0');
+    // clang-format off
+    const struct { std::string item; Single single; int integer; } rows[] = {
+        {"12.35", 12.35F, 12}, {"-.5e1", -5, -5}, {"+5.", 5, 5}, {"0012E+1", 120, 120},
+        {"\"7\"", 7, 7}, {"2.5", 2.5F, 2}, {"3.5", 3.5F, 4}, {"-2.5", -2.5F, -2},
+        {"-32768.5", -32768.5F, -32768}, {"32767.4", 32767.4F, 32767},
+        {"32767.5", 32767.5F, kept}, {"-32769", -32769, kept},
+        {"3.4028235E38", 3.4028235e38F, kept}, {"3.5E38", kept, kept}, {"-1" + zeros, kept, kept},
+        {"1E-40", 1e-40F, 0}, {"-1E-60", -0.0F, 0}, {"1E-400", 0, 0}, {"." + zeros + "E+398", 0, 0},
+        {"." + zeros + "1E+398", 0.001F, 0}, {"1" + zeros + "E-400", 1, 1},
+        {"1E99999999999999999999", kept, kept}, {"0E99999", 0, 0},
+        {"10E9223372036854775807", kept, kept}, {"0.01E-9223372036854775808", 0, 0},
+        {"\"\"", 0, 0}, {".", 0, 0}, {"-", 0, 0}, {"1E", 0, 0}, {"+-1", 0, 0}, {"1.2.3", 0, 0},
+        {"12abc", 0, 0}, {"1D1", 0, 0}, {"0x1A", 0, 0}, {"nan", 0, 0}, {"inf", 0, 0},
+        {"\t7", 0, 0}, {{"7\0", 2}, 0, 0}, {"\" 7\"", 0, 0}};
+    // clang-format on
+    for (const auto& [item, single, integer] : rows) {
+        PhaseRecord& phase = LoadedPhases[1];
+        phase.ventLocation = phase.eruptionType = kept;
+        Read(",,,1,20,,P,1," + item + ',' + item + ",0");
+        EXPECT_EQ(phase.ventLocation, single) << item;
+        EXPECT_EQ(std::signbit(phase.ventLocation), std::signbit(single)) << item;
+        EXPECT_EQ(phase.eruptionType, integer) << item;
+    }
 }
 
 TEST_F(RecordTest, AnItemOrAReferenceHasAtMost65535Bytes) {
@@ -76,7 +131,7 @@ TEST_F(RecordTest, AnItemOrAReferenceHasAtMost65535Bytes) {
     EXPECT_FALSE(Read("a,\"b\" " + blanks + "\nc,0,4"));
 }
 
-TEST_F(RecordTest, AFileThatEndsEarlyIsKeptAsFarAsItCame) {
+TEST_F(RecordTest, WhatWasReadOfAFileThatEndsEarlyIsKept) {
     const std::string newer = Replaced(
         "\"Stratigraphic file:\",\"\"\n\"Recorded phases\",1,4\n\n\"Record Phase: \",1\n2,3,2,2\n"
         "2,2,2,2\n2,2,1,2\n2,2,2,2,2\n2,2,2,2,2,2\n2,2,2,2\n2\n",

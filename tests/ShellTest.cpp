@@ -1,5 +1,5 @@
-// Where no user gets: steps of the start that fail, states that no act leads to, paths of any
-// bytes.
+// What the stories leave out: steps of the start that fail, states that no user action leads to,
+// what dialogs and help look like, paths of any bytes.
 #include "TestForm.h"
 #include "editing/FieldHandlers.h"
 #include "record/WorkingCopy.h"
@@ -24,7 +24,7 @@ private:
     const RecordEdit& form;
 };
 
-TEST_F(FormTest, EveryControlOfTheUserHasItsHandlers) {
+TEST_F(FormTest, EachControlForTheUserHasItsHandlers) {
     for (const Control* control : form.Controls()) {
         std::vector<const Event*> events;
         if (const auto* box = dynamic_cast<const TextBox*>(control)) {
@@ -44,7 +44,7 @@ TEST_F(FormTest, EveryControlOfTheUserHasItsHandlers) {
     }
 }
 
-TEST_F(FormTest, AStepOfTheStartThatFailsIsSkipped) {
+TEST_F(FormTest, AFailedStepOfTheStartIsSkipped) {
     EXPECT_EQ(std::pair(platform.left, platform.top), std::pair(5700, 4000));
     const auto bare = std::make_unique<RecordEdit>();
     FailingPlatform failing(*bare, *bare);
@@ -53,10 +53,10 @@ TEST_F(FormTest, AStepOfTheStartThatFailsIsSkipped) {
     bare->services.createPathHelper = {};  // throws when it is called
     bare->services.createSettingsStore = [] { return std::make_unique<TestSettings>("/data"); };
     Form_Load(*bare);
-    EXPECT_EQ(failing.seen, "(New)0");  // on the screen before its lists are filled
+    EXPECT_EQ(failing.seen, "(New)0");  // visible before its lists are filled
     EXPECT_EQ(bare->CD1.InitDir + bare->DataPath + bare->txtTopFile.Text(), "/data/data(None)");
     EXPECT_EQ(bare->cmbType.Entries().size(), 9U);
-    bare->RecFile = "a.rec";  // shown as it is, for want of a helper
+    bare->RecFile = "a.rec";  // shown as it is: there is no path helper
     ReadData(*bare);
     EXPECT_EQ(bare->labRecfile.Caption(), "a.rec");
     bare->services.createSettingsStore = {};
@@ -66,7 +66,7 @@ TEST_F(FormTest, AStepOfTheStartThatFailsIsSkipped) {
     EXPECT_EQ(bare->labRecfile.Caption(), "a.rec");
 }
 
-TEST_F(FormTest, AnEntryThatNamesNoPhaseShowsThePhaseAgain) {
+TEST_F(FormTest, AnEntryThatIsNoPhaseShowsTheCurrentPhaseAgain) {
     Open({GoodPhase(EruptionType::Plinian), GoodPhase(EruptionType::Collapse)});
     Pick(form.cmbPhase, "Phase 2");
     for (const char* entry : {"Phase 02", "Phase 3", "Phase 2 ", "Phase +1", "Phase", "phase 1"}) {
@@ -76,7 +76,7 @@ TEST_F(FormTest, AnEntryThatNamesNoPhaseShowsThePhaseAgain) {
     }
 }
 
-TEST_F(FormTest, ADisplayBeyondTheTablesIsToldAndEnds) {
+TEST_F(FormTest, ADisplayOutsideTheTablesEndsWithAMessage) {
     Open({GoodPhase(EruptionType::Plinian)});
     form.CurPhase = 501;
     Pick(form.cmbPhase, "Phase 1");
@@ -85,20 +85,81 @@ TEST_F(FormTest, ADisplayBeyondTheTablesIsToldAndEnds) {
     form.cmbPhase.AddItem("Phase 9");
     Pick(form.cmbPhase, "Phase 9");
     DataActivate(form, EruptionType::Plinian);
-    std::string told;
+    std::string reported;
     for (const Message& message : platform.messages) {
-        told += message.text.substr(0, message.text.find(':')) + '.';
+        reported += message.text.substr(0, message.text.find(':')) + '.';
     }
-    EXPECT_EQ(told, "RecordEdit ShowData error.RecordEdit DataActivate error.");
+    EXPECT_EQ(reported, "RecordEdit ShowData error.RecordEdit DataActivate error.");
 }
 
-TEST_F(FormTest, TheFirstTypeOfReferencesIsOfferedWhicheverWasChosenBefore) {
-    form.CD1.FilterIndex = 2;
-    form.cmdChange.Press();
-    EXPECT_EQ(form.CD1.FilterIndex, 1);
+TEST_F(FormTest, EachDialogSetsAllItsProperties) {
+    Open({GoodPhase(EruptionType::Plinian)});
+    form.Command2.SetEnabled(true);
+    CommonDialog& dialog = form.CD1;
+    const std::pair<CommandButton*, std::string> rows[] = {
+        {&form.cmdChange,
+         "Open Stratigraphic File: Stratigraphic Files (*.str)|*.str;*.STR|"
+         "Topographic Files (*.top)|*.top;*.TOP| type 1, flags 4096, adds none"},
+        {&form.cmdOpen,
+         "Open Record File: Recorder Files (*.rec)|*.rec;*.REC| type 2, flags 4096, adds none"},
+        {&form.Command2, "Save Record File: Record File (*.rec)|*.rec| type 2, flags 2, adds rec"}};
+    for (const auto& [button, properties] : rows) {
+        dialog.DialogTitle = dialog.Filter = "old";
+        dialog.DefaultExt = "none";
+        dialog.FilterIndex = 2;
+        dialog.Flags = 0;
+        dialog.CancelError = false;
+        button->Press();
+        EXPECT_TRUE(dialog.CancelError);
+        EXPECT_EQ(dialog.DialogTitle + ": " + dialog.Filter + " type " +
+                      std::to_string(dialog.FilterIndex) + ", flags " +
+                      std::to_string(dialog.Flags) + ", adds " + dialog.DefaultExt,
+                  properties);
+    }
+    EXPECT_EQ(platform.asked.size(), 4U);
 }
 
-TEST_F(FormTest, AControlThatIsNoBoxTakesNoSelectionAlong) {
+TEST_F(FormTest, HelpShowsTheTopicOfTheEditorAndClosesWithTheForm) {
+    form.cmdHelp.Press();
+    EXPECT_EQ(form.CD1.HelpFile, "/opt/tephrex\\Tephrex3.hlp");
+    EXPECT_EQ(form.CD1.HelpContext, 94);
+    form.Command1.Press();
+    EXPECT_EQ(platform.helpCommands, (std::vector{1, 2}));
+    EXPECT_FALSE(form.pathHelper || form.settingsStore);
+}
+
+TEST_F(FormTest, ChoicesAreIgnoredWhileTheFormIsBeingFilled) {
+    PhaseRecord phase = GoodPhase(EruptionType::Hawaiian);
+    phase.burstCount = 2;
+    Open({phase}, {100, 200});
+    const auto before = std::make_unique<EditorState>(form);
+    form.FormFilling = true;
+    for (Control* control : form.Controls()) {
+        control->SetEnabled(control != &form.Command2);
+    }
+    Pick(form.cmbFlow, "Flow 2 Duration");
+    Pick(form.cmbStyle, "Valles Type");
+    Pick(form.cmbDown, "Right side down");
+    for (CheckBox* box : {&form.chkCald, &form.chkDirected, &form.chkBurst}) {
+        box->Toggle();
+    }
+    EXPECT_TRUE(form.EditPhases == before->EditPhases && !form.Command2.Enabled());
+    EXPECT_EQ(form.txtLava.Text(), "100.0");
+}
+
+TEST_F(FormTest, ShowingEachPhaseOfTheDemonstrationRecordChangesNoByteOfIt) {
+    const std::string saved = folder / "tephrexDemo.rec";
+    platform.answers = {TEPHREX_DATA "/TephrexDemo.rec", saved};
+    form.cmdOpen.Press();
+    for (int i = form.LoadedPhaseCount; i > 0; --i) {
+        form.cmbPhase.Pick(static_cast<std::size_t>(i) - 1);
+    }
+    form.txtTopFile.PressKey("(None)");
+    form.Command2.Press();
+    EXPECT_EQ(ReadBytes(saved), ReadBytes(TEPHREX_DATA "/TephrexDemo.rec"));
+}
+
+TEST_F(FormTest, SelectionStaysInABoxWhoseFocusGoesToAButton) {
     form.txtLoc.TakeFocus();
     form.txtLoc.Select(1, 1);
     form.cmdHelp.TakeFocus();
@@ -106,11 +167,11 @@ TEST_F(FormTest, AControlThatIsNoBoxTakesNoSelectionAlong) {
     EXPECT_EQ(form.txtLoc.SelLength(), 1U);
 }
 
-TEST(FlowDurationsTest, EveryRunStartsWithTheSameDraw) {
+TEST(FlowDurationsTest, EachRunStartsWithTheSameDraw) {
     EXPECT_EQ(NewRandomSource()(), 13668795 / 16777216.0F);
 }
 
-TEST(ShortenPathTest, CountsCodePointsAndBytesThatBelongToNone) {
+TEST(ShortenPathTest, CountsCodePointsAndBytesOutsideThem) {
     // clang-format off
     const std::pair<std::string, std::size_t> rows[] = {
         {"a", 1}, {"\xC3\xA9", 1}, {"\xE2\x82\xAC", 1}, {"\xF0\x9F\x98\x80", 1}, {"\xFF", 1},

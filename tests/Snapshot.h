@@ -1,20 +1,14 @@
-// All that can be seen of a form at one moment, and what has changed between two, in words.
+// All that can be seen of a form at one moment, and in words what has changed since another.
 #pragma once
 
 #include <algorithm>
 #include <charconv>
-#include <map>
+#include <set>
 
-#include "Doors.h"
+#include "UserActions.h"
 #include "editing/Fields.h"
 
-inline const std::map<std::string, FieldMember> NamedFields = [] {
-    std::map<std::string, FieldMember> fields;
-    for (const PhaseField& field : PhaseFields) {
-        fields.emplace(field.name, field.member);
-    }
-    return fields;
-}();
+using Items = std::vector<std::string>;
 
 inline std::string NumberText(double number) {
     std::array<char, 64> text{};
@@ -36,112 +30,84 @@ public:
         : state(std::make_unique<EditorState>(form)), folder(std::move(itsFolder)) {
         for (const Control* control : form.Controls()) {
             enabled.emplace_back(control->Name(), control->Enabled());
-            Look(*control);
+            Add(*control);
         }
-        ofControls = facts.size();
-        const Control* const focus = form.ActiveControl();
-        Note("focus", focus == nullptr ? "nowhere" : focus->Name());
-        Note("libraries", form.pathHelper && form.settingsStore ? "in use" : "released");
-        Note("FormFilling", form.FormFilling ? "true" : "false");
-        Note("CurPhase", std::to_string(form.CurPhase));
-        Note("CurType", std::to_string(form.CurType));
-        Note("EditPhaseCount", std::to_string(form.EditPhaseCount));
-        Note("LoadedPhaseCount", std::to_string(form.LoadedPhaseCount));
-        Note("RecordScale", std::to_string(form.RecordScale));
-        Note("RecFile", form.RecFile);
-        Note("StratFile", form.StratFile);
-        Note("EditStratFile", form.EditStratFile);
-        Note("DataPath", form.DataPath);
+        Add("focus", form.ActiveControl() == nullptr ? "nowhere" : form.ActiveControl()->Name());
+        Add("FormFilling", form.FormFilling ? "true" : "false");
+        Add("CurPhase", std::to_string(form.CurPhase));
+        Add("CurType", std::to_string(form.CurType));
+        Add("EditPhaseCount", std::to_string(form.EditPhaseCount));
+        Add("LoadedPhaseCount", std::to_string(form.LoadedPhaseCount));
+        Add("RecordScale", std::to_string(form.RecordScale));
+        Add("RecFile", form.RecFile);
+        Add("StratFile", form.StratFile);
+        Add("EditStratFile", form.EditStratFile);
         for (const auto& file : std::filesystem::directory_iterator(folder)) {
             if (file.is_regular_file()) {
-                files[file.path().filename()] = ReadBytes(file.path());
+                facts.emplace_back("writes " + file.path().filename().string(),
+                                   ReadBytes(file.path()));
             }
         }
     }
 
-    /// What `now` has and this has not, a line of items for each kind of change.
-    std::vector<Items> ChangesTo(const Snapshot& now) const {
-        std::vector<Items> lines{Turned(now, false), Turned(now, true), {}, {}};
-        for (std::size_t i = 0; i < facts.size(); ++i) {
-            if (now.facts[i] != facts[i]) {
-                const auto& [name, value] = now.facts[i];
-                const bool tip = name.ends_with(" tip");
-                Items& line = tip ? lines.emplace_back() : lines[i < ofControls ? 2 : 3];
-                line.push_back(name + ' ' + value);
+    /// What is not as it was before, in lines of items: controls turned on and off, then other
+    /// facts, then each phase.
+    std::vector<Items> ChangesSince(const Snapshot& before) const {
+        std::vector<Items> lines{Turned(before), {}};
+        const std::set<std::pair<std::string, std::string>> old(before.facts.begin(),
+                                                                before.facts.end());
+        for (const auto& fact : facts) {
+            if (!old.contains(fact)) {
+                const bool file = fact.first.starts_with("writes ");
+                lines.back().push_back(fact.first + (file ? "" : ' ' + fact.second));
             }
         }
-        const EditorState &a = *state, &b = *now.state;
+        const EditorState &a = *before.state, &b = *state;
         for (int n = 0; n <= MaxPhases; ++n) {
             lines.push_back(OfPhase("edited " + std::to_string(n), a.EditPhases[n], b.EditPhases[n],
                                     a.EditFlows[n], b.EditFlows[n]));
             lines.push_back(OfPhase("loaded " + std::to_string(n), a.LoadedPhases[n],
                                     b.LoadedPhases[n], a.LoadedFlows[n], b.LoadedFlows[n]));
         }
-        for (const auto& [name, bytes] : now.files) {
-            if (!files.contains(name) || files.at(name) != bytes) {
-                lines.push_back({"writes " + name});
-            }
-        }
         std::erase_if(lines, [](const Items& items) { return items.empty(); });
         return lines;
     }
 
-    /// A text on one line and without the folder of the test; a story can write all of it.
-    static std::string Shown(const std::string& text, const std::string& folder = "//") {
-        std::string shown;
-        for (std::size_t at = 0; at < text.size(); ++at) {
-            const std::string_view rest = std::string_view(text).substr(at);
-            if (rest.starts_with(folder) && rest != folder) {
-                at += folder.size() - 1;
-            } else if (const auto byte = static_cast<unsigned char>(rest.front());
-                       byte < 0x20 || byte == 0xFF) {
-                std::array<char, 5> hex{};
-                std::snprintf(hex.data(), hex.size(), "\\x%02X", unsigned{byte});
-                shown += hex.data();
-            } else {
-                shown += rest.front();
-            }
-        }
-        return text.empty() ? "\"\"" : text == folder ? "the folder" : shown;
+    /// A text on one line, without the folder of the test.
+    static std::string Shown(const std::string& text, const std::string& folder) {
+        return text.empty()     ? "\"\""
+               : text == folder ? "the folder"
+                                : Replaced(Replaced(text, folder, ""), "\r\n", "\\r\\n");
     }
 
 private:
-    void Note(const std::string& name, const std::string& value) {
+    void Add(const std::string& name, const std::string& value) {
         facts.emplace_back(name, Shown(value, folder));
     }
 
-    void Look(const Control& control) {
+    void Add(const Control& control) {
         const std::string& name = control.Name();
         if (const auto* box = dynamic_cast<const TextBox*>(&control)) {
             const std::size_t size = box->Text().size();
-            Note(name, box->Text());
-            Note(name + " selects", box->SelStart() == size    ? "nothing"
-                                    : box->SelLength() == size ? "all"
-                                                               : "a part");
+            Add(name, box->Text());
+            Add(name + " selects", box->SelStart() == size    ? "nothing"
+                                   : box->SelLength() == size ? "all"
+                                                              : "a part");
         } else if (const auto* list = dynamic_cast<const ComboBox*>(&control)) {
-            Note(name, list->Text());
-            Note(name + " lists", EntriesOf(*list));
-        } else if (const auto* dialog = dynamic_cast<const CommonDialog*>(&control)) {
-            Note("dialog filter", dialog->Filter);
-            Note("dialog adds", dialog->DefaultExt);
-            Note("dialog type", std::to_string(dialog->FilterIndex));
-            Note("dialog flags", std::to_string(dialog->Flags));
-            Note("dialog tells a cancel", dialog->CancelError ? "yes" : "no");
-            Note("dialog folder", dialog->InitDir);
-            Note("help topic", dialog->HelpFile + ' ' + std::to_string(dialog->HelpContext));
+            Add(name, list->Text());
+            Add(name + " lists", EntriesOf(*list));
         } else if (const auto* option = dynamic_cast<const OptionButton*>(&control)) {
-            Note(name, option->Value() ? "chosen" : "not chosen");
-        } else {
+            Add(name, option->Value() ? "chosen" : "not chosen");
+        } else if (const auto* captioned = dynamic_cast<const CaptionedControl*>(&control)) {
             const auto* check = dynamic_cast<const CheckBox*>(&control);
-            Note(name, check == nullptr ? "" : check->Value() == 1 ? "checked" : "clear");
-            Note(name + (check == nullptr ? "" : " reads"),
-                 dynamic_cast<const CaptionedControl&>(control).Caption());
+            Add(name, check == nullptr ? "" : check->Value() == 1 ? "checked" : "clear");
+            Add(name + (check == nullptr ? "" : " reads"), captioned->Caption());
         }
-        Note(name + " tip", control.ToolTipText());
-        Note(name + " shown", control.Visible() ? "yes" : "no");
+        Add(name + " tip", control.ToolTipText());
+        Add(name + " shown", control.Visible() ? "yes" : "no");
     }
 
-    // Many entries that are numbered are told by the first and the last.
+    // The first and the last of many numbered entries.
     static std::string EntriesOf(const ComboBox& list) {
         const Items& entries = list.Entries();
         const bool numbered = entries.size() > 2 && entries[0].find('1') != std::string::npos;
@@ -150,49 +116,54 @@ private:
                                : Joined(entries, ", ");
     }
 
-    // The controls turned on or off; a box and its label that go together by the name they share.
-    Items Turned(const Snapshot& now, bool on) const {
-        std::map<std::string, bool> turned;
-        for (std::size_t i = 0; i < enabled.size(); ++i) {
-            turned[enabled[i].first] = enabled[i] != now.enabled[i] && now.enabled[i].second == on;
-        }
-        std::string names;
-        for (const auto& [name, before] : enabled) {
-            const std::string rest = name.substr(3), box = "txt" + rest;
-            const bool pair = turned["lab" + rest] && turned[box];
-            if (turned[name] && !(pair && name.starts_with("lab"))) {
-                names += ' ' + (pair && name == box ? rest : name);
+    // A box that turns together with its label goes by the name that they share.
+    Items Turned(const Snapshot& before) const {
+        Items items;
+        for (const bool on : {false, true}) {
+            std::set<std::string> turned;
+            for (std::size_t i = 0; i < enabled.size(); ++i) {
+                if (enabled[i].second == on && before.enabled[i].second != on) {
+                    turned.insert(enabled[i].first);
+                }
+            }
+            std::string names;
+            for (const auto& [name, now] : enabled) {
+                const std::string rest = name.substr(3);
+                const bool pair = turned.contains("lab" + rest) && turned.contains("txt" + rest);
+                if (turned.contains(name) && !(pair && name.starts_with("lab"))) {
+                    names += ' ' + (pair && name.starts_with("txt") ? rest : name);
+                }
+            }
+            if (!names.empty()) {
+                items.push_back((on ? "on" : "off") + names);
             }
         }
-        return names.empty() ? Items{} : Items{(on ? "on" : "off") + names};
+        return items;
     }
 
-    // Flows next to each other that get the same duration are told together.
+    // Neighbouring flows that get the same duration share an item.
     static Items OfPhase(const std::string& head, const PhaseRecord& before, const PhaseRecord& now,
                          const FlowRow& flowsBefore, const FlowRow& flows) {
         if (before == now && flowsBefore == flows) {
             return {};  // as nearly all are
         }
         Items items{head};
-        for (const auto& field : NamedFields) {
-            const auto in = [&field](const PhaseRecord& phase) {
-                return std::visit([&](auto each) -> double { return phase.*each; }, field.second);
-            };
-            if (in(before) != in(now) && now != PhaseRecord{}) {
-                items.push_back(field.first + ' ' + NumberText(in(now)));
-            }
-        }
         if (before != now && now == PhaseRecord{}) {
             items.emplace_back("cleared");
-        }
-        for (int first = 0, last = 0; first <= MaxFlows; first = last + 1) {
-            const auto joins = [&](int j) {
-                return j <= MaxFlows && flowsBefore[j] != flows[j] && flows[j] == flows[first];
-            };
-            for (last = first; joins(first) && joins(last + 1);) {
-                ++last;
+        } else {
+            for (const PhaseField& field : PhaseFields) {
+                if (ValueOf(now, field) != ValueOf(before, field)) {
+                    items.push_back(std::string(field.name) + ' ' +
+                                    NumberText(ValueOf(now, field)));
+                }
             }
-            if (joins(first)) {
+        }
+        const auto changed = [&](int j) { return flowsBefore[j] != flows[j]; };
+        for (int last = 0; last <= MaxFlows; ++last) {
+            if (const int first = last; changed(first)) {
+                while (last < MaxFlows && changed(last + 1) && flows[last + 1] == flows[first]) {
+                    ++last;
+                }
                 items.push_back("flow " + std::to_string(first) +
                                 (last > first ? '-' + std::to_string(last) : "") + ' ' +
                                 NumberText(flows[first]));
@@ -201,10 +172,8 @@ private:
         return items;
     }
 
-    std::vector<std::pair<std::string, std::string>> facts;  // the same names each time
-    std::size_t ofControls = 0;
+    std::vector<std::pair<std::string, std::string>> facts;  // by name; of a file its bytes
     std::vector<std::pair<std::string, bool>> enabled;
-    std::map<std::string, std::string> files;
     std::unique_ptr<EditorState> state;
     std::string folder;
 };

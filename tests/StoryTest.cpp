@@ -1,353 +1,346 @@
-// Tells the stories in tests/stories to the form. A story is a plain text: what a user does, an act
-// a line, and behind each act all that it changes; what is not told must stay as it was. README.md
-// there explains the words. What happens is written down in the words of the story and compared
-// with it; it also goes into the folder TEPHREX_AS_HAPPENED if the environment names one.
+// Runs the stories in tests/stories at the form. A story is a text with a step a line, such as a
+// user action, and after each action all that it changes; README.md there explains the words. What
+// really changes is written in the same words and compared with the story. It also goes into the
+// folder TEPHREX_AS_HAPPENED if the environment names one.
 #include <cctype>
 #include <cstdlib>
 
-#include "Doors.h"
 #include "Snapshot.h"
+#include "form/Catalogue.h"
 
 namespace {
 
-const std::map<std::string, int> Types{
-    {"None", -1},    {"Erosion", 0}, {"Faulting", 0}, {"Vulcanian", 1}, {"Strombolian", 2},
-    {"Hawaiian", 3}, {"Pelean", 4},  {"Plinian", 5},  {"Collapse", 6},  {"Fumarolic", 7}};
+Items WordsOf(const std::string& text) {
+    std::istringstream stream(text);
+    return {std::istream_iterator<std::string>(stream), {}};
+}
 
-/// A record in the making, as the words of a story tell it.
-struct Told {
-    std::string file;
-    std::unique_ptr<EditorState> record = std::make_unique<EditorState>();
+/// The first word of a text, and the rest of it.
+std::pair<std::string, std::string> SplitOff(const std::string& text) {
+    const std::size_t end = std::min(text.find(' '), text.size());
+    return {text.substr(0, end), text.substr(std::min(end + 1, text.size()))};
+}
 
-    /// The type of one more phase, and then its fields.
-    void AddPhase(const std::string& words) {
-        const std::string type = words.substr(0, words.find(' '));
-        const int code = Types.contains(type) ? Types.at(type) : std::stoi(type);
-        PhaseRecord& phase = record->LoadedPhases[++record->LoadedPhaseCount];
-        phase = GoodPhase(static_cast<Integer>(code));
-        phase.tectonicKind = type == "Erosion" ? TectonicKind::Erosion : phase.tectonicKind;
-        Set(words.substr(type.size()));
-    }
+/// A record as the words of a story describe it.
+class DescribedRecord {
+public:
+    EditorState& State() const { return *state; }
 
-    /// Names of fields of the last phase and of settings of the record, each with its value.
-    void Set(const std::string& words) {
-        std::string name;
-        for (const std::string& word : WordsOf(words)) {
-            if (isalpha(word[0]) == 0 || name == "reference") {
-                Set(name, word);
-            } else if (name = word; name == "flows") {
-                record->LoadedPhases[record->LoadedPhaseCount].burstCount = 0;
-            }
+    static bool IsType(const std::string& word) { return Types.contains(word); }
+
+    /// One more phase, a type and fields of it; or without a type further fields of the last one.
+    void Add(const std::string& words) {
+        const auto [type, fields] = SplitOff(words);
+        if (!IsType(type)) {
+            return Set(words);
         }
+        PhaseRecord& phase = state->LoadedPhases[++state->LoadedPhaseCount];
+        phase = GoodPhase(static_cast<Integer>(Types.at(type)));
+        phase.tectonicKind = type == "Erosion" ? TectonicKind::Erosion : phase.tectonicKind;
+        Set(fields);
     }
 
 private:
-    void Set(const std::string& name, const std::string& value) {
-        const int last = record->LoadedPhaseCount;
-        PhaseRecord& phase = record->LoadedPhases[last];
-        if (name == "reference") {
-            record->StratFile = value;
-        } else if (name == "scale") {
-            std::istringstream(value) >> record->RecordScale;
-        } else if (name == "flows") {
-            std::istringstream(value) >> record->LoadedFlows[last][++phase.burstCount];
-        } else if (name == "times") {
-            for (int more = std::stoi(value); more > 1; --more) {
-                record->LoadedPhases[++record->LoadedPhaseCount] = phase;
-                record->LoadedFlows[record->LoadedPhaseCount] = record->LoadedFlows[last];
+    // Names of fields of the last phase and of settings of the record, each before its values.
+    void Set(const std::string& words) {
+        std::string name;
+        for (const std::string& word : WordsOf(words)) {
+            if (isalpha(word[0]) == 0) {
+                Set(name, word);
+            } else if (name = word; name == "flows") {
+                state->LoadedPhases[state->LoadedPhaseCount].burstCount = 0;
             }
-        } else {
-            std::visit([&](auto each) { std::istringstream(value) >> phase.*each; },
-                       NamedFields.at(name));
         }
     }
+    void Set(const std::string& name, const std::string& value) {
+        const int last = state->LoadedPhaseCount;
+        PhaseRecord& phase = state->LoadedPhases[last];
+        std::istringstream number(value);
+        if (name == "scale") {
+            number >> state->RecordScale;
+        } else if (name == "flows") {
+            number >> state->LoadedFlows[last][++phase.burstCount];
+        } else if (name == "times") {
+            for (int more = std::stoi(value); more > 1; --more) {
+                state->LoadedPhases[++state->LoadedPhaseCount] = phase;
+                state->LoadedFlows[state->LoadedPhaseCount] = state->LoadedFlows[last];
+            }
+        } else {
+            const auto* const field = std::ranges::find(PhaseFields, name, &PhaseField::name);
+            ASSERT_NE(field, PhaseFields.end()) << name;
+            std::visit([&](auto member) { number >> phase.*member; }, field->member);
+        }
+    }
+
+    static inline const std::map<std::string, int> Types{
+        {"None", -1},       {"Erosion", 0},   {"Faulting", 0}, {"Vulcanian", 1},
+        {"Strombolian", 2}, {"Hawaiian", 3},  {"Pelean", 4},   {"Plinian", 5},
+        {"Collapse", 6},    {"Fumarolic", 7}, {"8", 8},        {"-2", -2}};
+    std::unique_ptr<EditorState> state = std::make_unique<EditorState>();
 };
 
-/// A form at the beginning of a scene, and its user.
+/// A form that has just been loaded, and its user.
 class Scene : public FormTest {
 public:
     Scene() {
         platform.dataPath = leftOut = folder / "";
-        platform.whileMessageShows = [this] { HearMessage(); };
+        platform.whileMessageShows = [this] { NoteMessage(); };
         form.random = [this] { return Draw(); };
+        for (const NamedText& tip : ToolTips()) {
+            form.Find(tip.control)->SetToolTipText(tip.text);  // ControlsTest has them
+        }
         before = Look();
+        Load();
     }
-    using FormTest::form, FormTest::Load;
 
-    void Write(const Told& told) {
-        EXPECT_TRUE(WriteRecordFile(folder / told.file, *told.record)) << told.file;
+    void WriteFile(const std::string& name, const DescribedRecord& record) {
+        EXPECT_TRUE(WriteRecordFile(folder / name, record.State())) << name;
         before = Look();
     }
-    /// What no user does. False if the act is one of a user.
-    bool Prepare(const Act& act) {
-        if (act.verb == "demo") {
-            WriteBytes(folder / act.name, ReadBytes(TEPHREX_DATA "/TephrexDemo.rec"));
-        } else if (act.verb == "bytes") {
-            WriteBytes(folder / act.name, Unwritten(act.text));
-        } else if (act.verb == "same") {
-            EXPECT_EQ(ReadBytes(folder / act.name), ReadBytes(folder / act.text)) << act.told;
-        } else if (act.verb == "draws") {
-            for (const std::string& draw : WordsOf(act.name + ' ' + act.text)) {
-                draws.push_back(std::stof(draw));
-            }
-        } else if (act.verb == "separators") {
-            form.separators = {Unwritten(act.name), Unwritten(act.text)};
-        } else if (act.verb == "filling") {
-            form.FormFilling = act.name == "true";
-        } else {
-            return false;
-        }
+    void WriteFile(const std::string& name, const std::string& bytes) {
+        WriteBytes(folder / name, bytes);
         before = Look();
-        return true;
     }
-    /// An act that finds its control closed to the user fails unless it begins with "refused".
-    void Use(const Act& act) {
-        const bool refused = act.verb == "refused";
-        const Act users(refused ? act.told.substr(act.verb.size()) : act.told);
-        Control* const control = form.Find(users.name);
-        if (control == nullptr || control->OpenToUser() == refused) {
-            ADD_FAILURE() << act.told << ": there is no such control, or it is open or closed";
-            return;
+    void SetDraws(const Items& numbers) {
+        for (const std::string& number : numbers) {
+            draws.push_back(std::stof(number));
         }
+    }
+    std::vector<Items> Use(UserAction action) {
+        Control& control = *form.Find(action.name);
         const std::string answering = "answering ";
-        const bool answers = users.text.starts_with(answering);
-        for (const std::string& name : WordsOf(answers ? users.text.substr(9) : "")) {
-            platform.answers.emplace_back(name[0] == '/' ? name : folder / name);
-            if (name == "cancel") {
-                platform.answers.back().reset();
+        if (action.text.starts_with(answering)) {
+            for (const std::string& name : WordsOf(action.text.substr(answering.size()))) {
+                platform.answers.emplace_back(name[0] == '/' ? name : folder / name);
+                if (name == "cancel") {
+                    platform.answers.back().reset();
+                }
             }
         }
-        const std::size_t asked = platform.offered.size() + platform.answers.size();
-        Do(*control, users.verb, users.text);
-        EXPECT_EQ(platform.offered.size(), asked) << act.told << ": dialogs and answers";
-        platform.answers.clear();
-    }
-    /// All that has changed, a line of items for each kind; nothing is new after that.
-    std::vector<Items> Happened() {
-        HearDialogs();
-        std::vector<Items> lines = std::exchange(heard, {});
-        for (; helped < platform.helpCommands.size(); ++helped) {
-            lines.push_back({"help " + std::to_string(platform.helpCommands[helped])});
+        if (!control.OpenToUser()) {
+            noted.push_back({"refused"});
         }
+        const std::size_t asked = platform.asked.size() + platform.answers.size();
+        Perform(control, action.verb, action.text);
+        EXPECT_EQ(platform.asked.size(), asked) << action.name << ": dialogs and answers";
+        platform.answers.clear();
+        return Changes();
+    }
+    /// All that is new since this was last asked, in lines of items.
+    std::vector<Items> Changes() {
+        NoteDialogs();
+        std::vector<Items> lines = std::exchange(noted, {});
         std::unique_ptr<Snapshot> now = Look();
-        std::ranges::move(before->ChangesTo(*now), std::back_inserter(lines));
+        std::ranges::move(now->ChangesSince(*before), std::back_inserter(lines));
         before = std::move(now);
         if (drawn > 0) {
-            lines.push_back({"drew " + std::to_string(std::exchange(drawn, 0))});
+            lines.resize(std::max<std::size_t>(lines.size(), 1));
+            lines.back().push_back("draws " + std::to_string(std::exchange(drawn, 0)));
         }
         return lines;
     }
-    /// What Save says of a record that has passed until now, and which flow it then shows.
+    /// What Save says of phase 2, and which flow it then shows.
     std::string Verdict() {
         form.txtSlide6.PressKey(form.txtSlide6.Text());
         form.Command2.Press();
         if (platform.messages.empty()) {
-            return platform.offered.size() == 2 ? "passes" : "is not asked for a name";
+            return platform.asked.size() == 2 ? "passes" : "is not asked for a name";
         }
         const std::string text = platform.messages.back().text;
         const bool flow = text.find(" Flow ") != std::string::npos;
-        return '"' + Snapshot::Shown(text, folder / "") + '"' +
+        return '"' + Snapshot::Shown(text, "Phase 2 ") + '"' +
                (flow ? " at " + form.cmbFlow.Text() : "");
     }
 
 private:
-    static std::string VerbOf(MessageIcon icon) {
-        switch (icon) {
-            case MessageIcon::Information: return "tells";
-            case MessageIcon::Exclamation: return "warns";
-            case MessageIcon::Stop: return "stops";
-        }
-        return "shows an icon without a word";
-    }
-    void HearDialogs() {
-        for (; offered < platform.offered.size(); ++offered) {
-            heard.push_back({"asks " + form.CD1.DialogTitle + ", offering " +
-                             Snapshot::Shown(platform.offered[offered], folder / "")});
+    void NoteDialogs() {
+        for (; dialogs < platform.asked.size(); ++dialogs) {
+            noted.push_back({"asks " + Snapshot::Shown(platform.asked[dialogs], folder / "")});
         }
     }
-    // With the phase that is named then: the form moves only after the message.
-    void HearMessage() {
-        HearDialogs();
+    // With the phase on show while the message is: the form moves only after it.
+    void NoteMessage() {
+        static const std::map<MessageIcon, std::string> verbs{{MessageIcon::Information, "reports"},
+                                                              {MessageIcon::Exclamation, "warns"},
+                                                              {MessageIcon::Stop, "stops"}};
+        NoteDialogs();
         const Message& message = platform.messages.back();
-        heard.push_back({VerbOf(message.icon) + " \"" + Snapshot::Shown(message.text, folder / "") +
-                         "\" over " + form.cmbPhase.Text()});
+        noted.push_back({verbs.at(message.icon) + " \"" +
+                         Snapshot::Shown(message.text, folder / "") + "\" at " +
+                         form.cmbPhase.Text()});
         EXPECT_EQ(message.title, "TephrexEdit");
     }
     Single Draw() {
         ++drawn;
-        const Single r = draws.empty() ? 0.5F : draws.front();
-        if (!draws.empty()) {
-            draws.pop_front();
-        }
-        return r;
+        const Single next = draws.empty() ? 0.5F : draws.front();
+        draws.erase(draws.begin(), draws.begin() + (draws.empty() ? 0 : 1));
+        return next;
     }
     std::unique_ptr<Snapshot> Look() const { return std::make_unique<Snapshot>(form, folder / ""); }
     void TestBody() override {}
 
     std::unique_ptr<Snapshot> before;
-    std::vector<Items> heard;
+    std::vector<Items> noted;
     std::deque<Single> draws;
     int drawn = 0;
-    std::size_t offered = 0;
-    std::size_t helped = 0;
+    std::size_t dialogs = 0;
 };
 
-class StoryTest : public testing::TestWithParam<std::string> {
-protected:
-    /// An act and what happened: on one line if there is room, and else on lines of their own.
-    std::string Happened(const Act& act) {
-        const auto happening = Happening(act);
-        if (!happening) {
-            return act.told;
-        }
-        Items all;
-        for (const Items& items : *happening) {
-            all.push_back(Joined(items, "  "));
-        }
-        constexpr std::size_t width = 100;
-        const std::string padding(34 - std::min<std::size_t>(34, act.told.size()), ' ');
-        std::string text =
-            act.told + padding + " : " + (all.empty() ? "nothing" : Joined(all, "  "));
-        if (text.size() <= width) {
-            return text;
-        }
-        text = act.told;
-        for (const Items& items : *happening) {
-            std::string line = "  ";
-            for (const std::string& item : items) {
-                Items words = item.size() + 5 > width ? WordsOf(item) : Items{item};
-                words.front().insert(0, " ");
-                for (const std::string& word : words) {
-                    if (line.size() + word.size() >= width) {
-                        text += '\n' + line;
-                        line = "    ";
-                    }
-                    line += ' ' + word;
-                }
-            }
-            text += '\n' + line;
-        }
-        return text;
+/// What a step changes, in lines of items; nothing for a step that only prepares others.
+using Outcome = std::optional<std::vector<Items>>;
+
+/// Takes the steps of a story in turn. What it does of them is a method of the step's verb; a verb
+/// that has none is a user's.
+class Story {
+public:
+    Outcome Take(const std::string& step) {
+        static const std::map<std::string, Outcome (Story::*)(const std::string&)> methods{
+            {"start", &Story::Start},     {"given", &Story::Given}, {"and", &Story::And},
+            {"file", &Story::File},       {"bytes", &Story::Bytes}, {"draws", &Story::Draws},
+            {"quietly", &Story::Quietly}, {"show", &Story::Show},   {"judge", &Story::Judge},
+            {"mend", &Story::Mend}};
+        const auto [verb, rest] = SplitOff(step);
+        const auto method = methods.find(verb);
+        return method == methods.end() ? scene->Use(UserAction(step))
+                                       : (this->*method->second)(rest);
     }
 
 private:
-    // Nothing of an act of which no change is told.
-    std::optional<std::vector<Items>> Happening(const Act& act) {
-        const std::string rest = act.told.substr(std::min(act.told.size(), act.verb.size() + 1));
-        if (act.verb == "file" || act.verb == "given") {
-            Flush();
-            pending = Told{act.verb == "file" ? act.name : "given.rec"};
-            begins = act.verb == "given";
-            pending->AddPhase(begins ? rest : act.text);
-        } else if (act.verb == "and") {
-            pending->AddPhase(rest);
-        } else if (act.verb == "set") {
-            pending->Set(rest);
-        } else if (act.verb == "quietly") {
-            Happening(Act(rest));
-        } else if (act.verb == "new") {
-            Begin({});
-        } else if (act.verb == "start") {
-            scene = std::make_unique<Scene>();
-            scene->Load();
-            return scene->Happened();
-        } else if (act.verb == "judge" || act.verb == "mend") {
-            return Judged(act.verb == "judge", rest);
-        } else if (act.verb == "number") {
-            const std::string text = Unwritten(rest);
-            return {{{NumberText(ParseLeadingNumber(text, scene->form.separators))}}};
-        } else if (act.verb == "reads") {
-            return Read(Unwritten(rest));
-        } else if (act.verb == "item") {
-            const std::string item = Unwritten(rest);
-            return std::vector<Items>(1, Read(",,,1,20,,P,1," + item + ',' + item + ",0").back());
-        } else if (act.verb == "written") {
-            std::vector<Items> texts;
-            for (int i = 0; i < 4; ++i) {
-                texts.push_back({scene->form.TextOf(std::stof(act.name), Format{i})});
-            }
-            return texts;
-        } else {
-            Flush();
-            if (!scene->Prepare(act)) {
-                scene->Use(act);
-                return scene->Happened();
-            }
-        }
-        return std::nullopt;
-    }
-
-    // What a file of these bytes leaves of a reference, a count, a scale, a Single and an Integer.
-    static std::vector<Items> Read(const std::string& bytes) {
-        const auto record = std::make_unique<EditorState>();
-        record->StratFile = "old";
-        record->LoadedPhaseCount = 7;
-        record->RecordScale = 9;
-        PhaseRecord& phase = record->LoadedPhases[1];
-        phase.ventLocation = phase.eruptionType = 77;
-        std::stringbuf source(bytes);
-        return {{ReadRecord(source, *record) ? "whole" : "fails"},
-                {'"' + Snapshot::Shown(record->StratFile) + '"'},
-                {std::to_string(record->LoadedPhaseCount), std::to_string(record->RecordScale)},
-                {NumberText(phase.ventLocation), std::to_string(phase.eruptionType)}};
-    }
-
-    // A form in which a record has been opened, or a new one; nothing of it is told.
-    void Begin(const Told& told) {
+    Outcome Start(const std::string&) {
         scene = std::make_unique<Scene>();
-        scene->Load();
-        if (told.record->LoadedPhaseCount > 0) {
-            scene->Write(told);
-            scene->Use(Act("press cmdOpen answering " + told.file));
-        }
-        scene->Happened();
+        return scene->Changes();
     }
-    void Flush() {
-        if (pending && begins) {
-            Begin(*pending);
-        } else if (pending) {
-            scene->Write(*pending);
-        }
-        pending.reset();
+    Outcome Given(const std::string& phase) { return Describe("", phase); }
+    Outcome File(const std::string& words) {
+        const auto [name, phase] = SplitOff(words);
+        return Describe(name, phase);
     }
-    // Of a phase that has never been on show.
-    std::vector<Items> Judged(bool anew, const std::string& words) {
-        if (anew) {
-            judged = Told{"judged.rec"};
-            judged.AddPhase("Erosion scale 20");
-            judged.AddPhase(words);
+    Outcome Describe(const std::string& itsFile, const std::string& phase) {
+        file = itsFile;
+        described = DescribedRecord();
+        return And(phase);
+    }
+    Outcome And(const std::string& words) {
+        described.Add(words);
+        if (file.empty()) {
+            Open(described);
         } else {
-            judged.Set(words);
+            scene->WriteFile(file, described);
         }
-        Begin(judged);
-        return {{scene->Verdict()}};
+        return {};
+    }
+    Outcome Bytes(const std::string& words) {
+        const auto [name, bytes] = SplitOff(words);
+        scene->WriteFile(name, bytes);
+        return {};
+    }
+    Outcome Draws(const std::string& numbers) {
+        scene->SetDraws(WordsOf(numbers));
+        return {};
+    }
+    Outcome Quietly(const std::string& step) {
+        Take(step);
+        return {};
+    }
+    // Next to a phase without a type, which closes all that a type opens.
+    Outcome Show(const std::string& phase) {
+        Given("None");
+        And(phase);
+        return scene->Use(UserAction("pick cmbPhase Phase 2"));
+    }
+    // Each type has its record, in which a phase before that of the type is on show.
+    Outcome Judge(const std::string& words) {
+        judged.clear();
+        auto [type, rest] = SplitOff(words);
+        for (; DescribedRecord::IsType(type); std::tie(type, rest) = SplitOff(rest)) {
+            judged.emplace_back().Add("Erosion scale 20");
+            judged.back().Add(type);
+        }
+        return Mend(type + ' ' + rest);
+    }
+    Outcome Mend(const std::string& fields) {
+        Items verdicts;
+        for (DescribedRecord& record : judged) {
+            record.Add(fields);
+            Open(record);
+            verdicts.push_back(scene->Verdict());
+        }
+        const bool agreed = std::ranges::count(verdicts, verdicts[0]) == std::ssize(verdicts);
+        verdicts.resize(agreed ? 1 : verdicts.size());
+        return {{verdicts}};
+    }
+
+    void Open(const DescribedRecord& record) {
+        Start("");
+        if (record.State().LoadedPhaseCount > 0) {
+            scene->WriteFile("given.rec", record);
+            scene->Use(UserAction("press cmdOpen answering given.rec"));
+        }
     }
 
     std::unique_ptr<Scene> scene;
-    std::optional<Told> pending;
-    bool begins = false;
-    Told judged;
+    DescribedRecord described;
+    std::string file;  // of the described record; empty if it is open
+    std::vector<DescribedRecord> judged;
 };
 
-TEST_P(StoryTest, HappensAsItIsTold) {
-    const std::string told = ReadBytes(TEPHREX_STORIES + ('/' + GetParam()));
-    std::istringstream lines(told);
+constexpr std::size_t Width = 100;
+
+// Broken between items where that is possible.
+std::string Wrapped(std::string line) {
+    std::string text;
+    while (line.size() > Width) {
+        const std::size_t between = line.rfind("  ", Width);
+        const std::size_t end = between > 6 ? between : line.rfind(' ', Width);
+        text += line.substr(0, end) + '\n';
+        line = "      " + line.substr(line.find_first_not_of(' ', end));
+    }
+    return text + line;
+}
+
+// A step and what it changes: on one line if there is room, otherwise on lines of their own.
+std::string LaidOut(const std::string& step, const std::vector<Items>& outcome) {
+    Items lines;
+    for (const Items& items : outcome) {
+        lines.push_back(Joined(items, "  "));
+    }
+    const std::string padding(34 - std::min<std::size_t>(34, step.size()), ' ');
+    const std::string line =
+        step + padding + " : " + (lines.empty() ? "nothing" : Joined(lines, "  "));
+    if (line.size() <= Width) {
+        return line;
+    }
+    std::string text = step;
+    for (const std::string& each : lines) {
+        text += '\n' + Wrapped("    " + each);
+    }
+    return text;
+}
+
+class StoryTest : public testing::TestWithParam<std::string> {};
+
+TEST_P(StoryTest, MatchesWhatHappens) {
+    const std::string text = ReadBytes(TEPHREX_STORIES + ('/' + GetParam()));
+    std::istringstream lines(text);
     std::string happened;
+    Story story;
     for (std::string line; std::getline(lines, line);) {
-        const std::size_t end = line.find_last_not_of(' ', line.find(" : ")) + 1;
         if (line.empty() || line.starts_with('#')) {
             happened += line + '\n';
         } else if (!line.starts_with(' ')) {
-            happened += Happened(Act(line.substr(0, end))) + '\n';
+            const std::string step =
+                line.substr(0, line.find_last_not_of(' ', line.find(" : ")) + 1);
+            const Outcome outcome = story.Take(step);
+            happened += (outcome ? LaidOut(step, *outcome) : step) + '\n';
         }
     }
     if (const char* const folder = std::getenv("TEPHREX_AS_HAPPENED")) {
         WriteBytes(folder + ('/' + GetParam()), happened);
     }
-    const auto same = std::ranges::mismatch(told, happened).in2;
+    const auto same = std::ranges::mismatch(text, happened).in2;
     const std::size_t line =
         happened.rfind('\n', static_cast<std::size_t>(same - happened.begin()));
-    EXPECT_TRUE(told == happened && !told.empty())
+    EXPECT_TRUE(text == happened && !text.empty())
         << GetParam() << ':' << std::count(happened.begin(), same, '\n') + 1 << ": what happens is"
         << happened.substr(std::min(line, happened.size()), 800);
 }

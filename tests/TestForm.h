@@ -38,7 +38,7 @@ public:
     std::vector<Message> messages;
     std::function<void()> whileMessageShows;
     std::deque<std::optional<std::string>> answers;  // to dialogs: a name, or nothing to cancel
-    std::vector<std::string> offered;                // the name that each dialog came up with
+    std::vector<std::string> asked;                  // what each dialog was for, and its first name
     std::vector<int> helpCommands;
     std::function<bool(const std::string& path)> flush = [](const std::string&) { return true; };
     std::string dataPath;
@@ -53,8 +53,8 @@ public:
             whileMessageShows();
         }
     }
-    bool AskOpen(CommonDialog& dialog) override { return Ask(dialog); }
-    bool AskSave(CommonDialog& dialog) override { return Ask(dialog); }
+    bool AskOpen(CommonDialog& dialog) override { return Ask("to open", dialog); }
+    bool AskSave(CommonDialog& dialog) override { return Ask("to save", dialog); }
     void ShowHelp(const CommonDialog& dialog) override {
         helpCommands.push_back(dialog.HelpCommand);
     }
@@ -67,8 +67,9 @@ public:
     void Unload() override { form.Unload(); }
 
 private:
-    bool Ask(CommonDialog& dialog) {
-        offered.push_back(dialog.FileName);
+    bool Ask(const std::string& purpose, CommonDialog& dialog) {
+        const std::string& name = dialog.FileName;
+        asked.push_back(purpose + (name.empty() ? "" : ", offering " + name));
         const auto answer = answers.empty() ? std::nullopt : answers.front();
         answers.erase(answers.begin(), answers.begin() + (answers.empty() ? 0 : 1));
         dialog.FileName = answer.value_or(dialog.FileName);

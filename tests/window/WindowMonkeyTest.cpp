@@ -3,7 +3,7 @@
 // the environment as for the monkey at the form.
 #include <random>
 
-#include "../Acts.h"
+#include "../RandomUser.h"
 #include "WindowTest.h"
 #include "window/MessageDialogs.h"
 #include "window/ScreenText.h"
@@ -250,7 +250,7 @@ TEST_F(WindowMonkeyTest, EveryWidgetShowsItsControlWhateverTheUserDoes) {
     const unsigned long seed = FromEnvironment("TEPHREX_MONKEY_SEED", 1);
     std::cout << "seed " << seed << std::endl;  // even if a sanitizer ends the program
     generator.seed(seed);
-    User user(form, platform, folder, [this](std::size_t below) { return Choose(below); });
+    RandomUser user(form, platform, folder, [this](std::size_t below) { return Choose(below); });
     QStringList acts;
     for (unsigned long i = FromEnvironment("TEPHREX_MONKEY_ACTS", 2000); i > 0; --i) {
         platform.answers.clear();

@@ -1,5 +1,5 @@
-// Random acts of a user at the form's doors, and what must hold after each of them. The acts come
-// out of a source of choices: a seeded generator, or the bytes of a fuzzer.
+// Random user actions at the form, and what must hold after each. They follow from a source of
+// choices: a seeded generator, or the bytes of a fuzzer.
 #pragma once
 
 #include <array>
@@ -9,23 +9,23 @@
 #include <string_view>
 #include <vector>
 
-#include "Doors.h"
+#include "UserActions.h"
 #include "editing/Fields.h"
 #include "rules/Activation.h"
 
 /// A whole number from 0 to `below` - 1.
 using Choices = std::function<std::size_t(std::size_t below)>;
 
-/// The number in a variable of the environment, for a monkey's seed or the number of its acts.
+/// The number in a variable of the environment, for a monkey's seed or the number of its actions.
 inline unsigned long FromEnvironment(const char* name, unsigned long fallback) {
     const char* const text = std::getenv(name);
     return text == nullptr ? fallback : std::strtoul(text, nullptr, 10);
 }
 
-class User {
+class RandomUser {
 public:
-    User(RecordEdit& theForm, TestPlatform& thePlatform, const TempFolder& theFolder,
-         Choices theChoices)
+    RandomUser(RecordEdit& theForm, TestPlatform& thePlatform, const TempFolder& theFolder,
+               Choices theChoices)
         : form(theForm), platform(thePlatform), folder(theFolder), choose(std::move(theChoices)) {
         std::filesystem::create_symlink("/dev/full", folder / "full.rec");
         std::filesystem::copy_file(TEPHREX_DATA "/TephrexDemo.rec", folder / "a.rec");
@@ -36,7 +36,7 @@ public:
         }
     }
 
-    /// Does one act and tells what it was, in the words of a story.
+    /// Performs one action and returns it in the words of a story.
     std::string Act() {
         platform.messages.clear();
         platform.answers.clear();
@@ -47,7 +47,7 @@ public:
         displayed =
             control.OpenToUser() && (verb == "pick" || verb == "press") &&
             std::find(std::begin(displays), std::end(displays), &control) != std::end(displays);
-        Do(control, verb, text);
+        Perform(control, verb, text);
         for (const Message& message : platform.messages) {
             readDataFailed |= message.text.starts_with("RecordEdit ReadData error");
         }
@@ -64,7 +64,7 @@ public:
         }
     }
 
-    /// What does not hold now, in words; empty if all does.
+    /// What does not hold now; empty if all does.
     std::string Broken() {
         const int count = form.EditPhaseCount;
         if (count < 0 || count > MaxPhases || form.LoadedPhaseCount < 0 ||
@@ -89,7 +89,7 @@ private:
         return std::string(texts[choose(std::size(texts))]);
     }
 
-    // A verb for the control and a text for the verb. What a button asks for is answered here.
+    // A verb for the control and a text for it. Also prepares the answer to what a button asks.
     std::pair<std::string, std::string> Idea(const Control& control) {
         if (choose(16) == 0) {
             return {choose(2) == 0 ? "mouse" : "focus", ""};
@@ -108,13 +108,12 @@ private:
             PrepareAnswer();
             return {"press", ""};
         }
-        return {dynamic_cast<const CheckBox*>(&control) != nullptr       ? "toggle"
-                : dynamic_cast<const OptionButton*>(&control) != nullptr ? "choose"
-                                                                         : "mouse",
-                ""};
+        const bool button = dynamic_cast<const CheckBox*>(&control) != nullptr ||
+                            dynamic_cast<const OptionButton*>(&control) != nullptr;
+        return {button ? "press" : "mouse", ""};
     }
 
-    // A file with one byte of another file changed, or cut off behind it.
+    // Makes a copy of a file with one byte changed, or cut off at a byte.
     void Damage() {
         std::string bytes = ReadBytes(folder / "a.rec");
         if (!bytes.empty()) {
@@ -138,7 +137,7 @@ private:
         return "";
     }
 
-    // After a display the rules have nothing left to change.
+    // After a display the activation rules have nothing left to change.
     std::string BrokenActivation() {
         if (!displayed || !platform.messages.empty()) {
             return "";

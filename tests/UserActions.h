@@ -1,0 +1,46 @@
+// User actions in words: a verb, the name of a control, and a text for it.
+#pragma once
+
+#include <map>
+
+#include "TestForm.h"
+
+struct UserAction {
+    std::string verb, name, text;
+
+    explicit UserAction(const std::string& line) {
+        std::istringstream words(line);
+        words >> verb >> name;
+        std::getline(words >> std::ws, text);
+        text = text == "\"\"" ? "" : text;  // as stories write no text
+    }
+};
+
+/// A click on a button of any kind.
+inline void Press(Control& control) {
+    if (auto* const check = dynamic_cast<CheckBox*>(&control)) {
+        check->Toggle();
+    } else if (auto* const option = dynamic_cast<OptionButton*>(&control)) {
+        option->Choose();
+    } else {
+        dynamic_cast<CommandButton&>(control).Press();
+    }
+}
+
+/// Does it as the user would; throws if the control has no such action.
+inline void Perform(Control& control, const std::string& verb, const std::string& text) {
+    using Action = void (*)(Control&, const std::string&);
+    static const std::map<std::string, Action> actions{
+        {"key", [](auto& c, auto& t) { dynamic_cast<TextBox&>(c).PressKey(t); }},
+        {"edit", [](auto& c, auto& t) { dynamic_cast<TextBox&>(c).Edit(t); }},
+        {"type", [](auto& c, auto& t) { dynamic_cast<ComboBox&>(c).Type(t); }},
+        {"pick",
+         [](auto& c, auto& t) {
+             auto& list = dynamic_cast<ComboBox&>(c);
+             list.Pick(PositionOf(list, t));
+         }},
+        {"press", [](auto& c, auto&) { Press(c); }},
+        {"focus", [](auto& c, auto&) { c.TakeFocus(); }},
+        {"mouse", [](auto& c, auto&) { c.MoveMouse(); }}};
+    actions.at(verb)(control, text);
+}
