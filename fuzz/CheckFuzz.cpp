@@ -1,5 +1,5 @@
-// Any bytes as a record, to tephrexcheck and to the form: what the one calls unreadable the other
-// does not open, and what it calls invalid the other does not save.
+// Any bytes as a record, for tephrexcheck and for the form: the form does not open what
+// tephrexcheck calls unreadable, and does not save what it calls invalid.
 
 #include <cstdint>
 #include <memory>
@@ -18,14 +18,14 @@ class CheckedForm : public FormTest {
 public:
     CheckedForm() { SetUp(); }
 
-    /// Reads the bytes as the form's button does.
+    /// Reads the bytes as Open does.
     bool Open(const std::string& bytes) {
         std::stringbuf source(bytes);
         return static_cast<bool>(ReadRecord(source, form));
     }
 
-    /// Whether Save writes what was opened. The form shows the first phase, which rounds its
-    /// numbers: an erosion in front of all others is shown instead.
+    /// Whether Save writes what was opened. Showing a phase rounds its numbers, so an erosion that
+    /// is inserted first is shown instead.
     bool Saves() {
         for (int i = form.LoadedPhaseCount++; i > 0; --i) {
             form.LoadedPhases[i + 1] = form.LoadedPhases[i];
@@ -61,9 +61,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string bytes(data, data + size);
     const Verdict verdict = Check(bytes, check);
     Require((verdict == Verdict::Unreadable) == !form->Open(bytes),
-            "unreadable is what is not opened");
+            "unreadable if and only if not opened");
     if (verdict != Verdict::Unreadable && check.PhaseCount() < MaxPhases) {
-        Require((verdict == Verdict::Invalid) == !form->Saves(), "invalid is what is not saved");
+        Require((verdict == Verdict::Invalid) == !form->Saves(),
+                "invalid if and only if not saved");
     }
     return 0;
 }

@@ -1,4 +1,4 @@
-// Bytes as the acts of a user at the form; after each of them the monkey's invariants hold.
+// Bytes as user actions at the form; after each the invariants of RandomUser hold.
 
 #include <cstdint>
 
@@ -19,9 +19,9 @@ public:
             return choice % below;
         });
         while (byte != end) {
-            const std::string act = user.Act();
+            const std::string action = user.Act();
             const std::string broken = user.Broken();
-            Require(broken.empty(), broken + ", after: " + act);
+            Require(broken.empty(), broken + ", after: " + action);
         }
     }
 

@@ -1,5 +1,5 @@
-// Texts and numbers against a slow model of both ways: every prefix of a text tried in turn, and
-// every digit of a number written out.
+// Parsing and formatting against slow models: one tries each prefix of a text, the other writes all
+// digits of a number.
 
 #include <algorithm>
 #include <array>
@@ -18,7 +18,7 @@ namespace {
 
 struct Locale {
     Separators separators;
-    std::regex number;  // its groups: sign, digits before and behind the separator, exponent
+    std::regex number;  // its groups: sign, digits before and after the separator, exponent
 
     Locale(const char* decimal, const char* thousands) : separators{decimal, thousands} {
         const auto quoted = [](std::string text) { return text == "." ? "[.]" : text; };
@@ -59,13 +59,13 @@ template <class Number>
 void CheckWholeText(const std::string& text, Number (*convert)(const char*, char**)) {
     static const std::regex item("[+-]?([0-9]+[.]?[0-9]*|[.][0-9]+)([Ee][+-]?[0-9]+)?");
     const bool isNumber = std::regex_match(text, item);
-    const Number wanted = isNumber ? convert(text.c_str(), nullptr) : 0;
-    const Conversion outcome = !isNumber               ? Conversion::NoNumber
-                               : std::isfinite(wanted) ? Conversion::Number
-                                                       : Conversion::TooLarge;
+    const Number expected = isNumber ? convert(text.c_str(), nullptr) : 0;
+    const Conversion outcome = !isNumber                 ? Conversion::NoNumber
+                               : std::isfinite(expected) ? Conversion::Number
+                                                         : Conversion::TooLarge;
     Number value = 1;
-    Require(FromDecimal(text, value) == outcome, "a whole text is a number or none");
-    Require(value == (std::isfinite(wanted) ? wanted : 0), "a whole text has its value");
+    Require(FromDecimal(text, value) == outcome, "the result of converting a whole text");
+    Require(value == (std::isfinite(expected) ? expected : 0), "the value of a whole text");
 }
 
 std::string ModelOfFormat(Single number, int decimals, const std::string& separator) {
@@ -98,9 +98,10 @@ void CheckFormats(Single number, const Locale& locale) {
     }
     const std::string plain = FormatNumber(number, Format::Plain, separators);
     Require(ParseLeadingNumber(plain, separators) == number, "plain reads back the same Single");
-    Require(ModelOfParse(plain, locale) == number, "plain is a number to the model too");
+    Require(ModelOfParse(plain, locale) == number, "plain reads back the same in the model");
     Require(plain.find_first_of("eE") == plain.npos, "plain has no exponent");
-    Require(plain.find(separators.decimal) == plain.npos || plain.back() != '0', "nor idle zeros");
+    Require(plain.find(separators.decimal) == plain.npos || plain.back() != '0',
+            "plain has no trailing zeros");
 }
 
 }  // namespace

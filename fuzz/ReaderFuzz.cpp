@@ -1,5 +1,5 @@
-// Any bytes as a record file. What was read can be written, and what was written comes out of
-// another reading and writing byte for byte the same, however small the pieces in which it comes.
+// Any bytes as a record file. What was read can be written, and reading and writing that again
+// gives the same bytes, however small the pieces in which they are read.
 
 #include <algorithm>
 #include <cstdint>
@@ -11,14 +11,14 @@
 
 namespace {
 
-// Gives its bytes in pieces of a few at most.
+// Gives its bytes in short pieces.
 class Pieces : public std::streambuf {
 public:
     Pieces(std::string_view bytes, std::size_t longest) : rest(bytes), piece(longest) {}
 
 protected:
-    std::streamsize xsgetn(char* to, std::streamsize wanted) override {
-        const std::size_t length = std::min(piece, static_cast<std::size_t>(wanted));
+    std::streamsize xsgetn(char* to, std::streamsize size) override {
+        const std::size_t length = std::min(piece, static_cast<std::size_t>(size));
         const std::string_view given = rest.substr(0, length);
         std::copy(given.begin(), given.end(), to);
         rest.remove_prefix(given.size());
@@ -30,7 +30,7 @@ private:
     std::size_t piece;
 };
 
-// Reads into a state that serves every input: making a new one takes longer than the reading.
+// Reads into a state that all inputs share: making a new one takes longer than reading.
 bool Read(std::string_view bytes, std::size_t piece, EditorState& state) {
     state.LoadedPhases.Clear();
     state.LoadedFlows.Clear();
@@ -75,6 +75,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string written = Written(*state);
     Require(Read(written, 1 + size % 1000, *again), "what was written can be read");
     Require(again->StratFile == state->StratFile, "the reference is kept");
-    Require(Written(*again) == written, "the second writing is as the first");
+    Require(Written(*again) == written, "the second writing equals the first");
     return 0;
 }

@@ -1,4 +1,4 @@
-// What a fuzz target does with a property that does not hold: it stops where the fuzzer sees it.
+// Stops a fuzz target whose property does not hold, so that the fuzzer notices.
 #pragma once
 
 #include <cstdlib>

@@ -13,8 +13,7 @@ class ControlsTest : public testing::Test {
 protected:
     RecordEdit form;
     TextBox& box = form.txtLoc;
-    std::string log;  // the events, and in brackets the control that the observer hears of or its
-                      // value then
+    std::string log;  // events, and in brackets what the observer finds: a control or its value
 
     ControlsTest() {
         form.Observer = [this](Control& changed) {
@@ -168,8 +167,7 @@ TEST_F(FormTest, ThePlacesOfTheControlsFitTogether) {
                                                "cmbFlow txtLava", "optLarge optNormal"}));
 }
 
-// The texts and places are given. A digest notices any change of one, also where the rules above
-// hold; the new digest of a change that is meant is in the failure.
+// A change of a text or a place must be meant; then the digest that the failure shows belongs here.
 TEST_F(FormTest, NoTextAndNoPlaceHasChangedUnnoticed) {
     std::ostringstream all;
     for (const CatalogueRow& row : Catalogue()) {

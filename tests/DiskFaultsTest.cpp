@@ -1,4 +1,4 @@
-// Disks that fail at any call and behind any byte, and files and names of the odder kind.
+// Disks that fail at any call and after any byte, and unusual files and names.
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/resource.h>
@@ -23,8 +23,8 @@ extern "C" int fclose(FILE* file) {
 
 namespace {
 
-// A file that gives five bytes a call. One call fails, in every other way all behind it too; by
-// telling so or, from way 2 on, by throwing.
+// A file that gives five bytes a call. One call fails, in odd ways all later ones too: by its
+// result or, from way 2 on, by an exception.
 struct Disk : std::streambuf {
     std::string bytes;
     std::size_t failing, way, calls = 0, at = 0;
@@ -72,7 +72,7 @@ protected:
         file >> word >> bytes;
         return bytes;
     }
-    // Whether a button does its work with a file of that name: then Save rests.
+    // Whether a button does its work with a file of that name: then Save is disabled.
     bool Works(CommandButton& button, const std::string& path) {
         form.txtWind.PressKey("10");
         platform.answers = {path};
@@ -92,7 +92,7 @@ protected:
     }
 };
 
-TEST_F(DiskFaultsTest, ACallThatFailsIsTheEndAndWhatCameBeforeItIsKept) {
+TEST_F(DiskFaultsTest, AFailedCallEndsAReadOrWriteAndWhatCameBeforeIsKept) {
     const auto broken = std::make_unique<EditorState>(), cut = std::make_unique<EditorState>();
     form.StratFile.assign(40000, 'x');  // too much for one call
     Disk good("", whole.size(), 0);
@@ -101,7 +101,7 @@ TEST_F(DiskFaultsTest, ACallThatFailsIsTheEndAndWhatCameBeforeItIsKept) {
         const std::size_t way = n % 4, call = n / 4;
         *broken = *cut = EditorState{};
         Disk disk(whole, call, way), full("", call % good.calls, way);
-        const std::string start = whole.substr(0, 5 * call);  // an exception takes an item with it
+        const std::string start = whole.substr(0, 5 * call);  // an exception loses the item
         std::stringbuf end(way > 1 ? start.substr(0, start.find_last_of(",\n") + 1) : start);
         EXPECT_FALSE(ReadRecord(disk, *broken) || ReadRecord(end, *cut)) << way << ' ' << call;
         EXPECT_TRUE(broken->LoadedPhases == cut->LoadedPhases) << way << ' ' << call;
@@ -109,7 +109,7 @@ TEST_F(DiskFaultsTest, ACallThatFailsIsTheEndAndWhatCameBeforeItIsKept) {
     }
 }
 
-TEST_F(DiskFaultsTest, AFullDiskKeepsWhatItTookAndTheNextSaveIsWhole) {
+TEST_F(DiskFaultsTest, AFullDiskKeepsWhatFitAndALaterSaveIsComplete) {
     std::signal(SIGXFSZ, SIG_IGN);
     EXPECT_FALSE(SavesWithin(RLIMIT_NOFILE, 0));
     for (std::size_t room = 0; room <= whole.size(); ++room) {
@@ -119,7 +119,7 @@ TEST_F(DiskFaultsTest, AFullDiskKeepsWhatItTookAndTheNextSaveIsWhole) {
     EXPECT_EQ(platform.messages.size(), whole.size() + 1);
 }
 
-TEST_F(DiskFaultsTest, ASaveIsDoneWhenTheWholeFileIsOnItsDevice) {
+TEST_F(DiskFaultsTest, ASaveSucceedsOnlyIfTheFileIsFlushedToItsDevice) {
     for (const bool reaches : {false, true}) {
         platform.flush = [&](const std::string& path) {
             EXPECT_EQ(ReadBytes(path), whole);
@@ -136,7 +136,7 @@ TEST_F(DiskFaultsTest, AFileThatCannotBeClosedIsNotSaved) {
     EXPECT_TRUE(Saves(copy));
 }
 
-TEST_F(DiskFaultsTest, ATerminalIsNoRecordWhateverItSays) {
+TEST_F(DiskFaultsTest, ATerminalIsNotReadAsARecord) {
     const int terminal = posix_openpt(O_RDWR | O_NOCTTY);
     ASSERT_TRUE(grantpt(terminal) == 0 && unlockpt(terminal) == 0);
     const std::string record = "a,b\nc,0,20\n";
@@ -145,7 +145,7 @@ TEST_F(DiskFaultsTest, ATerminalIsNoRecordWhateverItSays) {
     close(terminal);
 }
 
-TEST_F(DiskFaultsTest, WhatIsNoReadableFileIsLeftAtOnce) {
+TEST_F(DiskFaultsTest, FilesThatCannotBeReadOrWrittenFailWithoutWaiting) {
     ASSERT_EQ(chmod((folder / "").c_str(), 0777), 0);
     ASSERT_TRUE(geteuid() != 0 || seteuid(65534) == 0);  // permissions do not bind root
     WriteBytes(folder / "locked", whole);
@@ -162,14 +162,14 @@ TEST_F(DiskFaultsTest, WhatIsNoReadableFileIsLeftAtOnce) {
     EXPECT_EQ(seteuid(getuid()), 0);
 }
 
-TEST_F(DiskFaultsTest, AFileIsReadNoFurtherThanTheRecordCallsFor) {
+TEST_F(DiskFaultsTest, AFileIsReadNoFurtherThanItsRecord) {
     WriteBytes(folder / "endless", "\"\"");
     for (const std::string& path : {folder / "endless", test}) {
         std::filesystem::resize_file(path, std::uintmax_t{1} << 31U);
         rusage before{}, after{};
         getrusage(RUSAGE_SELF, &before);
         const long read = BytesRead();
-        EXPECT_EQ(Opens(path), path == test);  // there the record stands in front of it all
+        EXPECT_EQ(Opens(path), path == test);  // it begins with a record
         EXPECT_LT(BytesRead() - read, 128 * 1024);
         getrusage(RUSAGE_SELF, &after);
         EXPECT_LT(after.ru_maxrss - before.ru_maxrss, 64 * 1024);
@@ -179,7 +179,7 @@ TEST_F(DiskFaultsTest, AFileIsReadNoFurtherThanTheRecordCallsFor) {
     EXPECT_LT(disk.at, whole.size() + 5);
 }
 
-TEST_F(DiskFaultsTest, NamesAreBytes) {
+TEST_F(DiskFaultsTest, NamesOfAnyBytesAreKept) {
     const std::string reference = "x\r\n,\xE9\xFF\n.str", odd = folder / "a\n \"\\\xE9\xFF.rec";
     platform.answers = {reference, odd, odd};
     form.cmdChange.Press();

@@ -54,7 +54,7 @@ public:
         return verb + ' ' + control.Name() + ' ' + text;
     }
 
-    /// What the next dialog answers, with a file that can be damaged.
+    /// Prepares the answer of the next dialog, perhaps with a damaged file.
     void PrepareAnswer() {
         if (choose(4) == 0) {
             Damage();

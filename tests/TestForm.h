@@ -1,5 +1,5 @@
-// A form on a platform of a few lines: messages are kept, dialogs answer from a queue. Tests drive
-// it through the controls' doors, as a user does.
+// A form with simple services: messages are kept, dialogs take their answers from a queue. Tests
+// act on its controls as a user does.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -37,7 +37,7 @@ public:
 
     std::vector<Message> messages;
     std::function<void()> whileMessageShows;
-    std::deque<std::optional<std::string>> answers;  // to dialogs: a name, or nothing to cancel
+    std::deque<std::optional<std::string>> answers;  // of dialogs: a name, or nothing for Cancel
     std::vector<std::string> asked;                  // what each dialog was for, and its first name
     std::vector<int> helpCommands;
     std::function<bool(const std::string& path)> flush = [](const std::string&) { return true; };
@@ -78,7 +78,7 @@ private:
     Form& form;
 };
 
-/// Shows paths without the folder that it is told to leave out.
+/// Shows paths without a folder.
 class TestPathHelper : public PathHelper {
 public:
     explicit TestPathHelper(std::string itsFolder) : folder(std::move(itsFolder)) {}
@@ -102,7 +102,7 @@ private:
     std::string dataPath;
 };
 
-/// A folder that goes with the test.
+/// A folder that exists as long as this does.
 class TempFolder {
 public:
     TempFolder() {
@@ -141,9 +141,9 @@ inline std::size_t PositionOf(const ComboBox& list, const std::string& text) {
     return static_cast<std::size_t>(entry - list.Entries().begin());
 }
 
-/// Picks an entry of a list that is open to the user.
+/// Picks an entry of a list as the user does; the list must be enabled and visible.
 inline void Pick(ComboBox& list, const std::string& text) {
-    EXPECT_TRUE(list.OpenToUser()) << list.Name() << " is closed";
+    EXPECT_TRUE(list.OpenToUser()) << list.Name() << " is disabled or hidden";
     list.Pick(PositionOf(list, text));
 }
 
@@ -153,9 +153,9 @@ protected:
     RecordEdit& form = *owner;
     TestPlatform platform{form};
     TempFolder folder;
-    std::string leftOut;  // of paths on show
+    std::string leftOut;  // of shown paths
 
-    /// Brings the form up as the program does.
+    /// Loads the form as the program does.
     void Load() {
         form.services = {&platform,
                          &platform,
@@ -171,7 +171,7 @@ protected:
 
     void SetUp() override { Load(); }
 
-    /// Opens a record of these phases at normal scale through the form, from a file.
+    /// Opens a file with a record of these phases, each with these flows, at normal scale.
     void Open(const std::vector<PhaseRecord>& phases, const std::vector<Single>& flows = {}) {
         auto record = std::make_unique<EditorState>();
         record->RecordScale = 20;

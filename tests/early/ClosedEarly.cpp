@@ -1,5 +1,5 @@
-// Linked to the program, closes its window as soon as that is up: while the form is still loading.
-// An event loop that is run after that would wait for ever.
+// Linked to the program, closes its window as soon as it is visible, while the form is still
+// loading. An event loop that starts after that would never end.
 #include <QApplication>
 #include <QThread>
 #include <QTimer>
