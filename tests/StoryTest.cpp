@@ -106,7 +106,7 @@ public:
             draws.push_back(std::stof(number));
         }
     }
-    std::vector<Items> Use(UserAction action) {
+    std::vector<Items> Use(const UserAction& action) {
         Control& control = *form.Find(action.name);
         const std::string answering = "answering ";
         if (action.text.starts_with(answering)) {
