@@ -25,6 +25,11 @@ for kind in svg png pdf; do
     cmp 1 2 || give_up "another $kind"
 done
 "$draw" "$record" | cmp - 1.svg || give_up "standard output has another picture"
+tr -d '\0' <1.pdf >plain
+grep -aq "TephrexDemo.rec)$" plain && grep -aq "tephrexdraw)$" plain ||
+    give_up "a PDF does not say what it is"
+"$draw" "$record" -o pages.pdf --width 120
+grep -aq "MediaBox \[0 0 340.* 481" pages.pdf && grep -aq "/Count 2$" pages.pdf || give_up "no pages"
 case $(head -c 24 1.png | od -An -tx1 | tr -d ' \n') in
     *0000058a0000*) ;;
     *) give_up "a PNG of 180 mm at 200 dpi is 1418 pixels wide" ;;
@@ -50,6 +55,9 @@ refused() {
     [ ! -s out ] || give_up "$*: something on standard output"
     ls -A | diff before - || give_up "$*: a file is left"
 }
+for limit in --width=2000 --width=120 --dpi=10 --dpi=2400; do
+    "$draw" "$record" $limit >out || give_up "$limit"
+done
 touch out said before
 head -c 300 "$record" >cut.rec
 echo old >old.png
@@ -57,16 +65,26 @@ mkdir folder.svg
 refused "cut.rec:[0-9]*: error: the file ends" cut.rec -o new.svg
 refused "none.rec.*error: No such file" none.rec -o new.svg
 refused "missing/new.svg" "$record" -o missing/new.svg
-refused "try a smaller --dpi" "$record" -o old.png --dpi 2400 --width 1000
+refused "the picture has more pixels than can be painted; try a smaller --dpi" "$record" -o old.png --dpi 2400 --width 1000
 [ "$(cat old.png)" = old ] || give_up "a picture that failed has replaced a file"
 refused "folder.svg: " "$record" -o folder.svg
-refused ".svg, .png or .pdf" "$record" -o new.gif
-refused "from 120 to 2000" "$record" --width 119
+refused "the name of the picture ends in .svg, .png or .pdf$" "$record" -o new.gif
+refused "is not UTF-8" "$record" -o $'\xE9.svg'
+refused "^tephrexdraw: --width is a number from 120 to 2000$" "$record" --width 119.9
+refused "from 120 to 2000" "$record" --width 2000.1
+refused "from 10 to 2400" "$record" --dpi 2401
+refused "from 10 to 2400" "$record" --dpi 9.9
 refused "from 10 to 2400" "$record" --dpi nan
-refused "one record"
+refused "name one record; --help shows how"
+refused "name one record" "$record" "$record"
 refused "Unknown option" "$record" $'--col\nour'
-grep -qx "tephrexdraw [0-9.]*" <<<"$("$draw" --version)" || give_up "the version"
-"$draw" --help | grep -q -- --width || give_up "the help"
+grep -qx "tephrexdraw [0-9.]*" <<<"$("$draw" -V)" || give_up "the version"
+help="Draws a record of the Tephrex eruption simulator as one picture. Options: \
+-h, --help Show this help and end. -V, --version Show the version and end. -o, --output <FILE> \
+Draw into FILE, by its ending .svg, .png or .pdf; without it, SVG on standard output. \
+--width <MM> Width in millimetres, 120 to 2000. --dpi <DPI> Dots per inch of a PNG, 10 to 2400. \
+Arguments: RECORD The record to draw. "
+[ "$("$draw" -h | tail -n +2 | tr -s ' \n' ' ')" = "$help" ] || give_up "the help"
 status=0
 "$draw" "$record" >/dev/full 2>said || status=$?
-[ "$status" = 2 ] && [ "$(wc -l <said)" = 1 ] || give_up "a full device: $(cat said)"
+[ "$status" = 2 ] && grep -q "^tephrexdraw: standard output: No space" said || give_up "a full device: $(cat said)"
