@@ -8,6 +8,7 @@ namespace {
 // What the program prints in this folder, and its status.
 std::string Printed(const TempFolder& folder, const std::string& arguments) {
     const std::string command = "cd '" + folder / "" + "' && '" TEPHREX_CHECK "' " + arguments;
+    setenv("TERM", "xterm", 1);
     FILE* const output = popen(("(" + command + ") 2>&1; echo \"= $?\"").c_str(), "r");
     std::string text;
     for (int c = 0; (c = std::fgetc(output)) != EOF;) {
@@ -28,6 +29,16 @@ TEST(CheckProgramTest, TheProgramListsRecordsInOrderAndItsStatusIsTheWorstOfThem
     WriteBytes(folder / "all/b.REC", demo);
     WriteBytes(folder / "all/b-w.rec", warned);
     WriteBytes(folder / "all/b.txt", "");
+    std::filesystem::create_directories(folder / "long");
+    std::filesystem::create_directories(folder / ".rec");
+    WriteBytes(folder / ".rec/.rec", "");
+    std::string many = "\"Stratigraphic file:\",\n\"Recorded phases\",99,20";
+    for (int i = 0; i < 99; ++i) {
+        many += ",,\"Record Phase: \"" + std::string(28, ',');
+    }
+    for (const char* const name : {"long/1.rec", "long/2.rec"}) {
+        WriteBytes(folder / name, many);
+    }
     WriteBytes(folder / "[\n\xE9\"]", demo + ',');
     const std::string warning = "all/b-w.rec:2: warning: 0 is judged as 20 (scale)\n";
     const std::string fault =
@@ -37,6 +48,19 @@ TEST(CheckProgramTest, TheProgramListsRecordsInOrderAndItsStatusIsTheWorstOfThem
         "\",\"findings\":[{\"level\":\"warning\",\"line\":125,\"message\":\"what follows the last "
         "item "
         "is not read\"}],\"phases\":14,\"status\":\"";
+    const std::string onTerminal = "script -qec \"'" TEPHREX_CHECK "' ";
+    const std::string plain = " 0 is judged as 20 (scale)\r\n1 record: 1 passes\r\n= 0\n";
+    std::string help = "-h | tr -s ' \\n' ' ' | grep -c '";
+    for (const char* const said :
+         {"Lists everything that is wrong with the records of the Tephrex eruption simulator.",
+          "RECORD", "A file, a folder (every [*].rec below it), or - for standard input",
+          "Show this help and end", "Show the version and end",
+          "How many records to check at a time", "Print one JSON object a record, each on a line",
+          "Print nothing: the exit status alone", "Count a record with warnings as invalid",
+          "Exit status: 0 if all records pass, 1 if one is invalid, 2 if one cannot be read or the "
+          "command line is wrong."}) {
+        help += said + std::string(" .*");
+    }
     const std::pair<std::string, std::string> rows[] = {
         {"all", warning + fault + "3 records: 2 pass, 1 invalid\n= 1\n"},
         {"-j1 all", warning + fault + "3 records: 2 pass, 1 invalid\n= 1\n"},
@@ -56,8 +80,33 @@ TEST(CheckProgramTest, TheProgramListsRecordsInOrderAndItsStatusIsTheWorstOfThem
          "[\\n\xE9\"]:125: warning: what follows the last item is not read\n1 record: 1 passes\n= "
          "0\n"},
         {"--json [[]*", "{\"record\":\"[\\n\uFFFD\\\"]" + json + "passes\"}\n= 0\n"},
-        {"--json all/b.rec | grep -o status.*", "status\":\"invalid\"}\n= 0\n"},
+        {"--json all/b.rec",
+         R"({"record":"all/b.rec/i.Rec","findings":[{"level":"invalid","line":13,"phase":2,)"
+         R"("type":"Strombolian","field":"wind","value":-80,"lowest":-50,)"
+         R"("message":"Wind speed too negative"}],"phases":14,"status":"invalid"})"
+         "\n= 1\n"},
+        {".rec",
+         ".rec/.rec:1: error: the file ends before the record does (label)\n"
+         "1 record: 1 unreadable\n= 2\n"},
+        {"-j1 long >1; '" TEPHREX_CHECK "' -j9 long | cmp - 1 && wc -l <1", "6275\n= 0\n"},
+        {"-V | tr -d 0-9.", "tephrexcheck \n= 0\n"},
+        {help + "'", "1\n= 0\n"},
+        {"-q all/b.REC; " + onTerminal + "all/b.rec no\"",
+         "all/b.rec/i.Rec:13: \x1b[1;33minvalid:\x1b[0m phase 2 (Strombolian): Wind speed too "
+         "negative (wind -80, at least -50)\r\n"
+         "no: \x1b[1;31merror:\x1b[0m No such file or directory\r\n"
+         "2 records: 1 invalid, 1 unreadable\r\n= 2\n"},
+        {"-q all/b.REC; NO_COLOR= " + onTerminal + "all/b-w.rec\"",
+         "all/b-w.rec:2: \x1b[1;35mwarning:\x1b[0m" + plain},
+        {"-q all/b.REC; NO_COLOR=1 " + onTerminal + "all/b-w.rec\"",
+         "all/b-w.rec:2: warning:" + plain},
+        {"-q all/b.REC; TERM=dumb " + onTerminal + "all/b-w.rec\"",
+         "all/b-w.rec:2: warning:" + plain},
+        {"-q all/b.REC; script -qec \"(sleep 1.1; cat all/b.REC) | '" TEPHREX_CHECK "' -\"",
+         "\r\x1b[K1 of 1 records\r\x1b[K1 record: 1 passes\r\n= 0\n"},
         {"--jobs 0 all 2>/dev/null", "= 2\n"},
+        {"--jobs 1025 all 2>/dev/null", "= 2\n"},
+        {"-q --jobs 1024 all/b.REC", "= 0\n"},
         {"2>/dev/null", "= 2\n"},
         {"all >/dev/full", "tephrexcheck: standard output: No space left on device\n= 2\n"}};
     for (const auto& [arguments, expected] : rows) {

@@ -213,12 +213,10 @@ std::string Written(const PhaseRecord& phase, Single secondFlow) {
     return text.str();
 }
 
-// The record with one number of a good phase replaced.
-std::string WithFault(const Row& row, Single value) {
-    PhaseRecord phase = GoodPhase(row.type);
-    phase.burstCount = 2;
+// Replaces one number of a phase, unless it is that of a flow.
+void Put(const std::string& name, Single value, PhaseRecord& phase) {
     for (const PhaseField& field : PhaseFields) {
-        if (field.name == row.field) {
+        if (field.name == name) {
             std::visit(
                 [&](auto member) {
                     phase.*member = static_cast<std::decay_t<decltype(phase.*member)>>(value);
@@ -226,7 +224,18 @@ std::string WithFault(const Row& row, Single value) {
                 field.member);
         }
     }
-    return Written(phase, row.field == "flow" ? value : 100);
+}
+
+PhaseRecord PhaseOf(const Row& row, Single value) {
+    PhaseRecord phase = GoodPhase(row.type);
+    phase.burstCount = 2;
+    Put(row.field, value, phase);
+    return phase;
+}
+
+// The record with one number of a good phase replaced.
+std::string WithFault(const Row& row, Single value) {
+    return Written(PhaseOf(row, value), row.field == "flow" ? value : 100);
 }
 
 std::string Invalid(const std::string& findings) {
@@ -264,6 +273,42 @@ TEST(CheckTest, ListsWhatIsReadOtherwiseThanItLooksWhereItIs) {
                 << change.to.substr(0, 40);
         }
     }
+}
+
+TEST(CheckTest, OfTwoFaultsThatOneIsSaidWhoseCheckIsFirst) {
+    for (const Row& first : Rows) {
+        for (const Row& second : Rows) {
+            if (&first < &second && first.type == second.type && first.field != second.field &&
+                second.value != 270) {
+                PhaseRecord phase = PhaseOf(first, first.value);
+                Put(second.field, second.value, phase);
+                FlowRow flows;
+                flows[1] = 100;
+                flows[2] = first.field == "flow" ? first.value : 100;
+                const std::string said(FirstFault(phase, flows, Scale::Normal)->message);
+                EXPECT_NE(first.found.find(said.substr(1, 20)), first.found.npos)
+                    << said << first.found;
+            }
+        }
+    }
+}
+
+TEST(CheckTest, CharactersWithoutALookOfTheirOwnAreEscaped) {
+    const std::string seen =
+        "~\u00A0\u00AC\u00AE\u061B\u061D\u200A\u2010\u2027\u202F\u205F\u2070\uFEFE\uFF00\U000DFFFF"
+        "\U000E0080";
+    EXPECT_EQ(OneLine(seen), seen);
+    EXPECT_EQ(Quoted(seen), '"' + seen + '"');
+    for (const std::string unseen :
+         {"\x1F", "\x7F", "\u0080", "\u009F", "\u00AD", "\u061C", "\u200B", "\u200F", "\u2028",
+          "\u202E", "\u2060", "\u206F", "\uFEFF", "\U000E0000", "\U000E007F"}) {
+        EXPECT_EQ(OneLine(unseen).size(), 4 * unseen.size()) << OneLine(unseen);
+        EXPECT_EQ(Quoted(unseen), '"' + OneLine(unseen) + '"');
+    }
+    EXPECT_EQ(OneLine("\t\\\"\x80"), "\\t\\\"\x80");
+    EXPECT_EQ(Quoted("\t\\\"\x80"), "\"\\t\\\\\\\"\\x80\"");
+    EXPECT_EQ(Quoted(std::string(40, 'a')), '"' + std::string(40, 'a') + '"');
+    EXPECT_EQ(Quoted(std::string(41, 'a')), '"' + std::string(40, 'a') + "\"...");
 }
 
 }  // namespace

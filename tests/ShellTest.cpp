@@ -180,9 +180,11 @@ TEST(ShortenPathTest, CountsCodePointsAndBytesOutsideThem) {
         {"\xF4\x8F\xBF\xBF", 1}, {"\xF4\x90\x80\x80", 4}, {"\xF5\x80\x80\x80", 4}};
     // clang-format on
     for (const auto& [bytes, count] : rows) {
-        const std::string kept = bytes + std::string(37 - count, 'b');
-        EXPECT_EQ(ShortenPath("abc" + kept), "abc" + kept);
-        EXPECT_EQ(ShortenPath("abcd" + kept), "..." + kept);
+        const std::string others(37 - count, 'b');
+        for (const std::string& kept : {bytes + others, others + bytes}) {
+            EXPECT_EQ(ShortenPath("abc" + kept), "abc" + kept);
+            EXPECT_EQ(ShortenPath("abcd" + kept), "..." + kept);
+        }
     }
 }
 
