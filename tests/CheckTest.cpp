@@ -285,7 +285,7 @@ TEST(CheckTest, OfTwoFaultsThatOneIsSaidWhoseCheckIsFirst) {
                 FlowRow flows;
                 flows[1] = 100;
                 flows[2] = first.field == "flow" ? first.value : 100;
-                const std::string said(FirstFault(phase, flows, Scale::Normal)->message);
+                const std::string said(FirstFault(phase, flows, ScaleCode::Normal)->message);
                 EXPECT_NE(first.found.find(said.substr(1, 20)), first.found.npos)
                     << said << first.found;
             }
