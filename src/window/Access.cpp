@@ -13,7 +13,7 @@
 
 namespace {
 
-// The toolkit would give the text of the box for the name of the list.
+// The toolkit would report the text in the box as the name of the list.
 class ListBoxAccess : public QAccessibleWidget {
 public:
     explicit ListBoxAccess(ListBox& ownList)
@@ -62,8 +62,9 @@ private:
     ListBox& list;
 };
 
-// An option that the Tab key reaches also while another one of its group is selected counts as a
-// check box with the toolkit. And only one of the group can be the buddy of the label.
+// The toolkit reports an option that is not auto-exclusive as a check box, but only without
+// auto-exclusion does the Tab key reach every option of a group. A label can have one option of a
+// group as its buddy, yet it names all of them.
 class OptionAccess : public QAccessibleWidget {
 public:
     using Relation = QPair<QAccessibleInterface*, QAccessible::Relation>;
@@ -131,7 +132,7 @@ QAccessibleInterface* NewAccess(const QString& kind, QObject* object) {
 
 void DescribeWidgets() { QAccessible::installFactory(NewAccess); }
 
-void NameAloud(QWidget& widget, QString caption) {
+void SetSpokenName(QWidget& widget, QString caption) {
     while (caption.endsWith(':') || caption.endsWith(' ')) {
         caption.chop(1);
     }
@@ -147,6 +148,6 @@ void NameAloud(QWidget& widget, QString caption) {
 void NameBuddy(const QLabel& label) {
     QWidget* const buddy = label.buddy();
     if (qobject_cast<QLineEdit*>(buddy) != nullptr || qobject_cast<QComboBox*>(buddy) != nullptr) {
-        NameAloud(*buddy, label.text());
+        SetSpokenName(*buddy, label.text());
     }
 }

@@ -1,18 +1,19 @@
-// What a screen reader hears where the toolkit by itself would say something else: roles, names,
-// relations and actions. The names themselves are in the catalogue and in the captions.
+// What a screen reader reports where the toolkit's default is wrong: roles, names, relations and
+// actions. The names themselves are in the catalogue and in the captions.
 #pragma once
 
 class QLabel;
 class QString;
 class QWidget;
 
-/// Makes lists, options, documents, notices and windows known as what they are. Has to come before
-/// they are shown.
+/// Gives lists, options, documents, notices and windows their accessible roles. Call it before any
+/// of them is shown.
 void DescribeWidgets();
 
-/// Names a widget by a caption, without the colon and the blanks at its end. A screen reader hears
-/// of a name that is another one than before.
-void NameAloud(QWidget& widget, QString caption);
+/// Sets the widget's accessible name to the caption, without the colons and spaces at its end.
+/// Screen readers are notified only if the name changes.
+void SetSpokenName(QWidget& widget, QString caption);
 
-/// Names the box that the label belongs to by it. Anything else has a text of its own for a name.
+/// Names the box that is the label's buddy after the label. Any other buddy, or none, is left
+/// alone: a button or an option is named by its own caption.
 void NameBuddy(const QLabel& label);

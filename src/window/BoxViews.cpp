@@ -17,14 +17,15 @@ constexpr QColor PaleYellow(255, 255, 192);
 TextBoxView::TextBoxView(const ViewParts& parts) : ViewOf(parts) {
     widget.setAlignment(Qt::AlignCenter);
     if (Row().look != Look::AnyText) {
-        widget.TypeDecimals(parts.separators.decimal);
+        widget.SetDecimalSign(parts.separators.decimal);
     }
-    connect(&widget, &LineBox::KeyPressed, this, [this] { OnUserAction([this] { TakeKey(); }); });
-    connect(&widget, &LineBox::Edited, this, [this] { OnUserAction([this] { TakeEdit(); }); });
-    connect(&widget, &LineBox::TextSet, this, [this] { OnTextSet([this] { TakeKey(); }); });
+    connect(&widget, &LineBox::KeyPressed, this,
+            [this] { OnUserAction([this] { ForwardKey(); }); });
+    connect(&widget, &LineBox::Edited, this, [this] { OnUserAction([this] { ForwardEdit(); }); });
+    connect(&widget, &LineBox::TextSet, this, [this] { OnTextSet([this] { ForwardKey(); }); });
     connect(&widget, &LineBox::SelectionMoved, this, [this] {
-        if (ShowsText()) {  // or the edit of which this is a part is told in a moment
-            OnUserAction([this] { TakeSelection(); });
+        if (ShowsText()) {  // otherwise an edit caused the move, and its signal follows
+            OnUserAction([this] { ForwardSelection(); });
         }
     });
 }
@@ -37,7 +38,7 @@ void TextBoxView::Update() {
     View::Update();
 }
 
-// A box that the Tab key only passes is not worked in.
+// Tabbing into a box is not yet working in it.
 bool TextBoxView::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::FocusIn) {
         const Qt::FocusReason reason = static_cast<const QFocusEvent*>(event)->reason();
@@ -50,27 +51,27 @@ bool TextBoxView::eventFilter(QObject* watched, QEvent* event) {
 
 bool TextBoxView::ShowsText() const { return widget.text() == ToScreen(control.Text()); }
 
-void TextBoxView::TakeKey() {
+void TextBoxView::ForwardKey() {
     NoteWork();
-    const std::string text = TextOnShow();
+    const std::string text = ShownText();
     control.PressKey(text, BytePlace(text, widget.cursorPosition()));
-    TakeSelection();
+    ForwardSelection();
 }
 
-void TextBoxView::TakeEdit() {
+void TextBoxView::ForwardEdit() {
     NoteWork();
-    const std::string text = TextOnShow();
+    const std::string text = ShownText();
     control.Edit(text, BytePlace(text, widget.cursorPosition()));
-    TakeSelection();
+    ForwardSelection();
 }
 
-// Text that the user has left alone keeps the bytes that the control has for it.
-std::string TextBoxView::TextOnShow() const {
+// An unchanged text keeps the control's bytes, which need not be UTF-8.
+std::string TextBoxView::ShownText() const {
     return ShowsText() ? control.Text() : FromScreen(widget.text());
 }
 
-// A widget forgets its selection when the focus leaves it; a control does not.
-void TextBoxView::TakeSelection() {
+// The widget loses its selection with the focus; the control keeps it.
+void TextBoxView::ForwardSelection() {
     if (!widget.hasFocus() || !ShowsText()) {
         return;
     }
@@ -97,7 +98,7 @@ void TextBoxView::ShowSelection() {
 
 ComboBoxView::ComboBoxView(const ViewParts& parts) : ViewOf(parts) {
     QPalette pale = PalePalette(widget.palette(), PaleYellow);
-    widget.setPalette(pale);  // the frame shows the focus in the desktop's colour
+    widget.setPalette(pale);  // before the highlight: the frame shows the focus in the desktop's
     pale.setColor(QPalette::Highlight, QColor(0, 84, 147));
     pale.setColor(QPalette::HighlightedText, Qt::white);
     widget.view()->setPalette(pale);
@@ -105,10 +106,10 @@ ComboBoxView::ComboBoxView(const ViewParts& parts) : ViewOf(parts) {
     if (Row().look == Look::OwnPointer) {
         const QCursor hand(QPixmap(":/window/down-32.xpm"), 12, 1);
         widget.setCursor(hand);
-        widget.lineEdit()->setCursor(hand);  // which has a pointer of its own otherwise
+        widget.lineEdit()->setCursor(hand);  // otherwise it would show the text cursor
     }
-    connect(&widget, &ListBox::Picked, this, &ComboBoxView::TakePick);
-    connect(&widget, &QComboBox::editTextChanged, this, &ComboBoxView::TakeText);
+    connect(&widget, &ListBox::Picked, this, &ComboBoxView::ForwardPick);
+    connect(&widget, &QComboBox::editTextChanged, this, &ComboBoxView::ForwardText);
 }
 
 void ComboBoxView::Update() {
@@ -125,12 +126,12 @@ void ComboBoxView::Update() {
 
 bool ComboBoxView::ShowsText() const { return widget.currentText() == ToScreen(control.Text()); }
 
-void ComboBoxView::TakeText() {
+void ComboBoxView::ForwardText() {
     if (!ShowsText()) {
         OnTextSet([this] { control.Type(FromScreen(widget.currentText())); });
     }
 }
 
-void ComboBoxView::TakePick(int position) {
+void ComboBoxView::ForwardPick(int position) {
     OnUserAction([this, position] { control.Pick(static_cast<std::size_t>(position)); });
 }

@@ -1,11 +1,12 @@
-// The views of the two kinds of control that hold a text of the user's: the text box and the
-// combo box.
+// The views of the two kinds of control that the user can type in: the text box and the combo box.
+// Their widgets are in LineBox and ListBox.
 #pragma once
 
 #include "window/LineBox.h"
 #include "window/ListBox.h"
 #include "window/View.h"
 
+/// Shows a text box, and forwards key presses, edits and selections to it.
 class TextBoxView : public ViewOf<TextBox, LineBox> {
 public:
     explicit TextBoxView(const ViewParts& parts);
@@ -18,13 +19,14 @@ protected:
 
 private:
     bool ShowsText() const;
-    std::string TextOnShow() const;
-    void TakeKey();
-    void TakeEdit();
-    void TakeSelection();
+    std::string ShownText() const;
+    void ForwardKey();
+    void ForwardEdit();
+    void ForwardSelection();
     void ShowSelection();
 };
 
+/// Shows a combo box with its entries, and forwards picks and text set by an assistive technology.
 class ComboBoxView : public ViewOf<ComboBox, ListBox> {
 public:
     explicit ComboBoxView(const ViewParts& parts);
@@ -34,6 +36,6 @@ public:
 
 private:
     bool ShowsText() const;
-    void TakeText();
-    void TakePick(int position);
+    void ForwardText();
+    void ForwardPick(int position);
 };

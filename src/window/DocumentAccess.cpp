@@ -9,8 +9,8 @@ namespace {
 
 constexpr auto Line = QAccessible::LineBoundary;
 
-// Paragraphs, lines and the cells of tables end in characters that nobody can say.
-QString Sayable(QString raw) {
+// Paragraphs, lines and table cells end in special characters that a screen reader cannot speak.
+QString Speakable(QString raw) {
     for (QChar& each : raw) {
         const char16_t code = each.unicode();
         const bool ends = code == QChar::ParagraphSeparator || code == QChar::LineSeparator ||
@@ -41,10 +41,10 @@ int DocumentAccess::characterCount() const {
 }
 
 QString DocumentAccess::text(int start, int end) const {
-    return Sayable(page.document()->toRawText().mid(start, end - start));
+    return Speakable(page.document()->toRawText().mid(start, end - start));
 }
 
-// A line is one on the screen, as the arrow keys go from line to line.
+// Lines are those on the screen: the arrow keys move by them.
 QString DocumentAccess::LineAt(int offset, int* start, int* end) const {
     const QTextBlock block = page.document()->findBlock(qBound(0, offset, characterCount()));
     const QTextLine line = block.layout()->lineForTextPosition(offset - block.position());

@@ -1,11 +1,12 @@
-// A text that is only read, as a screen reader finds it: a document that is walked by its caret.
-// With the toolkit by itself it would be a label.
+// Accessibility of a read-only text: a document that a screen reader can move through with the
+// caret. By default the toolkit presents it as a label.
 #pragma once
 
 #include <QAccessibleWidget>
 
 class QTextEdit;
 
+/// Offsets count characters of the document; those outside it are moved to its nearest end.
 class DocumentAccess : public QAccessibleWidget, public QAccessibleTextInterface {
 public:
     explicit DocumentAccess(QTextEdit& ownPage);

@@ -7,7 +7,7 @@
 #include <algorithm>
 
 #include "form/Controls.h"
-#include "window/NamingDialog.h"
+#include "window/FileNameDialog.h"
 #include "window/ScreenText.h"
 
 namespace {
@@ -16,33 +16,33 @@ QString PathOf(const std::string& bytes) {
     return QFile::decodeName(QByteArray::fromStdString(bytes));
 }
 
-// A relative one would lead to the folder from which the program happened to be started.
+// Absolute paths only: others depend on the folder that the program was started in.
 bool IsFolder(const QString& path) { return path.startsWith('/') && QFileInfo(path).isDir(); }
 
 }  // namespace
 
 bool FileChooser::AskOpen(CommonDialog& dialog) {
-    NamingDialog asking(parent, dialog, QFileDialog::AcceptOpen);
-    return Ask(asking, dialog);
+    FileNameDialog nameDialog(parent, dialog, QFileDialog::AcceptOpen);
+    return Ask(nameDialog, dialog);
 }
 
 bool FileChooser::AskSave(CommonDialog& dialog) {
-    NamingDialog asking(parent, dialog, QFileDialog::AcceptSave);
-    return Ask(asking, dialog);
+    FileNameDialog nameDialog(parent, dialog, QFileDialog::AcceptSave);
+    return Ask(nameDialog, dialog);
 }
 
-bool FileChooser::Ask(NamingDialog& asking, CommonDialog& dialog) {
+bool FileChooser::Ask(FileNameDialog& nameDialog, CommonDialog& dialog) {
     const QString offered = PathOf(dialog.FileName);
     const qsizetype nameStart = offered.lastIndexOf('/') + 1;
     const QString folder = offered.left(nameStart);
-    const bool toWrite = asking.acceptMode() == QFileDialog::AcceptSave;
-    asking.Offer(IsFolder(folder) ? folder : StartFolder(PathOf(dialog.InitDir), toWrite),
-                 offered.mid(nameStart));
-    if (asking.exec() != QDialog::Accepted) {
+    const bool toWrite = nameDialog.acceptMode() == QFileDialog::AcceptSave;
+    nameDialog.Offer(IsFolder(folder) ? folder : StartFolder(PathOf(dialog.InitDir), toWrite),
+                     offered.mid(nameStart));
+    if (nameDialog.exec() != QDialog::Accepted) {
         return false;
     }
-    lastFolder = QFileInfo(asking.Chosen()).path();
-    dialog.FileName = QFile::encodeName(asking.Chosen()).toStdString();
+    lastFolder = QFileInfo(nameDialog.Chosen()).path();
+    dialog.FileName = QFile::encodeName(nameDialog.Chosen()).toStdString();
     return true;
 }
 

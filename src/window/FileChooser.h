@@ -1,26 +1,26 @@
-// The dialogs that ask for a file name. What is asked for, and under which title, is in the
-// properties of the common dialog.
+// Asks for file names with the title, filter and flags of the common dialog. How a typed name is
+// read is in FileNameDialog.
 #pragma once
 
 #include <QString>
 
 #include "shell/Services.h"
 
-class NamingDialog;
+class FileNameDialog;
 class QWidget;
 
 class FileChooser : public FileDialogs {
 public:
-    /// The dialogs lie over this window.
+    /// The dialogs are modal to this window, which has to outlive the chooser.
     explicit FileChooser(QWidget& ownParent) : parent(ownParent) {}
 
     bool AskOpen(CommonDialog& dialog) override;
     bool AskSave(CommonDialog& dialog) override;
 
 private:
-    bool Ask(NamingDialog& asking, CommonDialog& dialog);
+    bool Ask(FileNameDialog& nameDialog, CommonDialog& dialog);
     QString StartFolder(const QString& initial, bool toWrite) const;
 
     QWidget& parent;
-    QString lastFolder;  // of the file that the user last took; empty before that
+    QString lastFolder;  // of the file last chosen; empty before the first
 };

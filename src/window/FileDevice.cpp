@@ -9,23 +9,23 @@
 
 namespace {
 
-// Terminals, pipes and some file systems know no flush.
-bool KnowsNoFlush(int error) {
+// Terminals, pipes and some file systems cannot be flushed.
+bool FlushUnsupported(int error) {
     return error == EINVAL || error == EROFS || error == ENOTSUP || error == ENOSYS;
 }
 
-// False if it cannot be opened, or if its flush fails.
+// False if the path cannot be opened or its flush fails.
 bool FlushOpened(const char* path, int flags) {
     const int file = open(path, flags | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
     if (file < 0) {
         return false;
     }
-    const bool flushed = fsync(file) == 0 || KnowsNoFlush(errno);
+    const bool flushed = fsync(file) == 0 || FlushUnsupported(errno);
     return close(file) == 0 && flushed;
 }
 
-// The folder of the file that the name leads to. One that may not be read cannot be flushed, and an
-// open pipe or terminal is in none.
+// Flushes the folder of the file, after symbolic links. True without a flush if the folder may not
+// be read, or if there is none: an open pipe or terminal has none.
 bool FlushFolder(const std::string& path) {
     std::error_code error;
     const auto folder = std::filesystem::canonical(path, error).parent_path();

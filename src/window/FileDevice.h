@@ -1,4 +1,4 @@
-// The device that files are on, as POSIX systems flush it.
+// Flushes files to their device on POSIX systems.
 #pragma once
 
 #include "shell/Services.h"

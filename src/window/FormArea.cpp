@@ -23,7 +23,7 @@ QSize FormArea::SizeWithin(const QSize& room) const {
 }
 
 void FormArea::Reveal(const QWidget& shown) {
-    constexpr int around = 12;
+    constexpr int margin = 12;
     const auto place = [this](const QWidget& one) {
         return QRect(one.mapTo(Page(), QPoint()), one.size());
     };
@@ -33,6 +33,6 @@ void FormArea::Reveal(const QWidget& shown) {
             part |= place(*label);
         }
     }
-    ensureVisible(part.center().x(), part.center().y(), part.width() / 2 + around,
-                  part.height() / 2 + around);
+    ensureVisible(part.center().x(), part.center().y(), part.width() / 2 + margin,
+                  part.height() / 2 + margin);
 }

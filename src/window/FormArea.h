@@ -1,5 +1,5 @@
-// The area of the window in which the form lies. The form keeps its size: in a larger area it is in
-// the middle, in a smaller one it is scrolled. Where the controls are on it is the window's matter.
+// The scroll area that contains the form. The form keeps its size: a larger area centres it, a
+// smaller one scrolls it. FormWindow places the controls.
 #pragma once
 
 #include <QScrollArea>
@@ -8,13 +8,13 @@ class FormArea : public QScrollArea {
 public:
     explicit FormArea(QWidget* parent);
 
-    /// What the controls sit on, as large as the form.
+    /// The parent of the controls, as large as the form.
     QWidget* Page() const { return widget(); }
 
-    /// The size that shows the page or, in less room, as much of it as that room has, with room for
-    /// the scroll bars that it then takes.
+    /// The size of the area that shows the whole page, at most `room`. Includes the scroll bars
+    /// that it needs if the page is larger than the room.
     QSize SizeWithin(const QSize& room) const;
 
-    /// Scrolls no further than it takes to show a widget of the page and its label.
+    /// Scrolls just far enough to show a widget of the page and its label.
     void Reveal(const QWidget& shown);
 };

@@ -10,7 +10,7 @@ namespace {
 
 constexpr double UsualScale = 96.0 / 1440;
 
-// Of a frame it is the strip above the first control in it, where the frame has its title.
+// The height for the text. In a frame it is the strip above the topmost control, for the title.
 int Headroom(const CatalogueRow& row) {
     int room = row.height;
     for (const CatalogueRow& other : Catalogue()) {
@@ -28,15 +28,15 @@ bool Covers(const CatalogueRow& upper, const CatalogueRow& lower) {
            lower.top < upper.top + upper.height;
 }
 
-// Borders and arrows can grow with the height, so that a larger scale asks for one larger still. As
-// the controls are wider than high, that soon comes to an end; with any other style it is cut
-// short.
+// Borders and arrows can grow with the height, so a larger scale can require a still larger one. As
+// the controls are wider than high, this converges quickly; the limit is for styles where it does
+// not.
 double ScaleToFit(View& view, const QString& text, double scale) {
-    constexpr int mostRounds = 8;
+    constexpr int maxRounds = 8;
     const CatalogueRow& row = view.Row();
     const double width = row.width - CoveredWidth(row);
     const double height = Headroom(row);
-    for (int round = 0; round < mostRounds; ++round) {
+    for (int round = 0; round < maxRounds; ++round) {
         view.Widget().resize(ToPixels(row.width, scale), ToPixels(row.height, scale));
         const QSize size = view.SizeWith(text);
         const double needed = std::max(size.width() / width, size.height() / height);
@@ -66,7 +66,7 @@ double FittingScale(const Views& views, const RecordEdit& form) {
     const auto texts = TextsToFit(form);
     double scale = UsualScale;
     for (const auto& view : views) {
-        for (const QString& text : texts.at(&view->Original())) {
+        for (const QString& text : texts.at(&view->ShownControl())) {
             scale = ScaleToFit(*view, text, scale);
         }
     }

@@ -1,18 +1,18 @@
-// How large a twip is on the screen. One scale serves the whole form, so that its proportions
-// stay whatever the font. Where the controls stand is told by the catalogue.
+// How large a twip is on the screen. The whole form has one scale, so its proportions are the same
+// in any font. The positions of the controls are in the catalogue.
 #pragma once
 
 #include "window/View.h"
 
 struct RecordEdit;
 
-/// Logical pixels to the twip: 96 pixels to the inch, enlarged until the widgets cut off no
-/// caption, list entry or value in range in the font that they have. The widgets are left with
-/// other texts; their views have to be brought up to date.
+/// Logical pixels per twip: 96 pixels to the inch, or more if the widgets would otherwise cut off a
+/// caption, list entry or value in range in their font. Changes the texts of the widgets: update
+/// the views afterwards.
 double FittingScale(const Views& views, const RecordEdit& form);
 
-/// A length on the form as logical pixels, at so many pixels to the twip.
+/// A length on the form in logical pixels, rounded; `scale` is in logical pixels per twip.
 int ToPixels(int twips, double scale);
 
-/// How much of a control's right end lies beneath its neighbours, in twips.
+/// How much of the control's right end its neighbours cover, in twips; 0 if none.
 int CoveredWidth(const CatalogueRow& row);

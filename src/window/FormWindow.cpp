@@ -75,13 +75,13 @@ FormWindow::FormWindow(RecordEdit& ownForm)
 
 FormWindow::~FormWindow() {
     form.Observer = nullptr;
-    disconnect(qApp, nullptr, this, nullptr);  // the widgets lose the focus as they go
+    disconnect(qApp, nullptr, this, nullptr);  // destroying the widgets changes the focus
 }
 
 void FormWindow::MakeViews() {
     for (const CatalogueRow& row : Catalogue()) {
-        View* const around = Find(row.frame);
-        QWidget* const parent = around != nullptr ? &around->Widget() : area->Page();
+        View* const enclosing = Find(row.frame);
+        QWidget* const parent = enclosing != nullptr ? &enclosing->Widget() : area->Page();
         Control& control = *form.Find(row.name);
         if (auto view = NewView({control, row, parent, mirror, form.separators})) {
             mirror.Mark(*view);
@@ -102,7 +102,7 @@ void FormWindow::PlaceViews() {
     }
 }
 
-// Labels lie beneath all else; of two others the one later in the tab order lies above.
+// Labels are at the bottom; other controls cover those before them in the tab order.
 void FormWindow::StackViews() {
     for (const View* view : InTabOrder(views)) {
         view->Widget().raise();
@@ -116,7 +116,7 @@ void FormWindow::ChainTabs() {
     }
 }
 
-// What a screen reader says of the controls that their captions and tips say nothing of.
+// What a screen reader says of controls without a caption or tip of their own.
 void FormWindow::NameViews() {
     for (const NamedText& row : LabelsOf()) {
         if (auto* const label = qobject_cast<QLabel*>(&Find(row.text)->Widget())) {
@@ -124,7 +124,7 @@ void FormWindow::NameViews() {
         }
     }
     for (const NamedText& row : SpokenNames()) {
-        NameAloud(Find(row.control)->Widget(), ToScreen(row.text));
+        SetSpokenName(Find(row.control)->Widget(), ToScreen(row.text));
     }
     for (const NamedText& row : SpokenDescriptions()) {
         Find(row.control)->Widget().setAccessibleDescription(ToScreen(row.text));
@@ -158,14 +158,14 @@ void FormWindow::Unload() { close(); }
 
 bool FormWindow::event(QEvent* event) {
     if (event->type() == QEvent::WindowBlocked) {
-        mirror.BringUpToDate();  // the user sees the form behind the modal box
+        mirror.BringUpToDate();  // the form is visible around the modal box
     }
     if (event->type() == QEvent::Move || event->type() == QEvent::WindowActivate) {
-        CountFrame();
+        AllowForFrame();
     }
     if (event->type() == QEvent::WindowUnblocked) {
-        // When two dialogs go at once, some window managers give the keys to nobody.
-        QMetaObject::invokeMethod(this, &FormWindow::TakeKeysBack, Qt::QueuedConnection);
+        // When two dialogs close at once, some window managers leave no window active.
+        QMetaObject::invokeMethod(this, &FormWindow::RegainKeyboard, Qt::QueuedConnection);
     }
     return QWidget::event(event);
 }
@@ -179,7 +179,7 @@ void FormWindow::changeEvent(QEvent* event) {
 
 void FormWindow::resizeEvent(QResizeEvent* /*event*/) { area->setGeometry(rect()); }
 
-void FormWindow::TakeKeysBack() {
+void FormWindow::RegainKeyboard() {
     if (QApplication::activeModalWidget() == nullptr) {
         activateWindow();
     }
@@ -202,47 +202,47 @@ void FormWindow::FollowFocus(QWidget* now) {
         const Mirror::UserAction action(mirror);
         mirror.Mark(**found);  // a box shows its selection only while it has the focus
         area->Reveal((*found)->Widget());
-        (*found)->Original().TakeFocus();
+        (*found)->ShownControl().TakeFocus();
     }
 }
 
-// The toolkit comes here for the Tab key, and to hand on the focus of a widget that it disables.
+// Called for the Tab key, and to move the focus away from a widget that is being disabled.
 bool FormWindow::focusNextPrevChild(bool next) {
     const QWidget* const now = focusWidget();
-    const bool loading = !updatesEnabled();  // when nothing is the user's doing yet
+    const bool loading = !updatesEnabled();  // no user action yet
     if (now == nullptr || now->isEnabled() || loading) {
         return QWidget::focusNextPrevChild(next);
     }
-    FocusHeir().Widget().setFocus();
+    ViewToFocus().Widget().setFocus();
     return true;
 }
 
-// Where the next key does no harm. Help is open at all times.
-View& FormWindow::FocusHeir() const {
-    for (const Control* heir : {mirror.LastBox(), static_cast<const Control*>(&form.cmbPhase)}) {
-        if (heir != nullptr && heir->OpenToUser()) {
-            return *byControl.at(heir);
+// A box where the next key does no harm, or the Help button, which is always enabled.
+View& FormWindow::ViewToFocus() const {
+    for (const Control* box : {mirror.LastBox(), static_cast<const Control*>(&form.cmbPhase)}) {
+        if (box != nullptr && box->OpenToUser()) {
+            return *byControl.at(box);
         }
     }
     return *byControl.at(&form.cmdHelp);
 }
 
-// The window is as large as the form, or as the screen has room, and clear of its panels.
+// The window gets the size of the form, or of the screen without its panels if that is smaller.
 void FormWindow::FitToScreen() {
     const QRect room = screen()->availableGeometry();
     setFixedSize(area->SizeWithin(room.marginsRemoved(frame).size()));
     if (place) {
         const QSize whole = size().grownBy(frame);
         const QPoint last = room.bottomRight() - QRect(QPoint(), whole).bottomRight();
-        PutFrame({std::max(room.left(), std::min(place->x(), last.x())),
-                  std::max(room.top(), std::min(place->y(), last.y()))});
+        MoveFrame({std::max(room.left(), std::min(place->x(), last.x())),
+                   std::max(room.top(), std::min(place->y(), last.y()))});
     }
     connect(screen(), &QScreen::availableGeometryChanged, this, &FormWindow::FitToNewScreen,
             Qt::UniqueConnection);
 }
 
-// The widget itself can still reckon with a frame of no size when the window knows better.
-void FormWindow::PutFrame(const QPoint& corner) {
+// Moving the widget could still assume a frame of no size, though `frame` is already known.
+void FormWindow::MoveFrame(const QPoint& corner) {
     if (frame.isNull()) {
         move(corner);
     } else {
@@ -250,7 +250,7 @@ void FormWindow::PutFrame(const QPoint& corner) {
     }
 }
 
-// A window that has the right size already stays where the user has put it.
+// A window that already has the right size is not moved: the user may have placed it.
 void FormWindow::FitToNewScreen() {
     const QSize room = screen()->availableGeometry().marginsRemoved(frame).size();
     const bool imposed = isMaximized() || isFullScreen();
@@ -260,8 +260,8 @@ void FormWindow::FitToNewScreen() {
     }
 }
 
-// The place was computed for a form without a frame; its middle is to stay where it is.
-void FormWindow::CountFrame() {
+// `place` was computed for a window without a frame. The frame must not move the window's centre.
+void FormWindow::AllowForFrame() {
     const QMargins now = isVisible() ? windowHandle()->frameMargins() : QMargins();
     if (now.isNull() || now == frame) {
         return;

@@ -1,5 +1,5 @@
-// The window that carries the form: it makes the views as the catalogue says and leads the
-// toolkit's events and the form's changes together. How one control looks is in Views.
+// The window of the form: makes the views from the catalogue, and connects the toolkit's events
+// with the changes of the form. How a single control looks is in Views.
 #pragma once
 
 #include <QIcon>
@@ -16,25 +16,26 @@
 #include "window/SizeLimits.h"
 #include "window/View.h"
 
-/// The form's icon, which serves all windows of the program.
+/// The icon of all windows of the program.
 QIcon FormIcon();
 
 class FormWindow : public QWidget, public Window {
     Q_OBJECT
 
 public:
-    /// The form has to outlive the window, which becomes its observer.
+    /// The form has to outlive the window, which sets its observer.
     explicit FormWindow(RecordEdit& ownForm);
     ~FormWindow() override;
 
+    /// In twips at the form's scale.
     Extent ScreenSize() override;
-    /// With the window's frame, as far as it is known.
+    /// In twips at the form's scale, with the window's frame once that is known.
     Extent FormSize() override;
-    /// On a screen smaller than the form the window goes where all of it can be seen.
+    /// To this place on the screen, in twips, or to the nearest where the whole window is visible.
     void Move(int left, int top) override;
     void Show() override;
     void RunPendingEvents() override;
-    /// Closes the window. Its first closing, by whatever way, raises the form's Unload.
+    /// Closes the window. The first time it closes, in whatever way, the form's Unload is raised.
     void Unload() override;
 
 protected:
@@ -51,12 +52,12 @@ private:
     void ChainTabs();
     void NameViews();
     void FollowFocus(QWidget* now);
-    void TakeKeysBack();
-    View& FocusHeir() const;
+    void RegainKeyboard();
+    View& ViewToFocus() const;
     void FitToScreen();
     void FitToNewScreen();
-    void PutFrame(const QPoint& corner);
-    void CountFrame();
+    void MoveFrame(const QPoint& corner);
+    void AllowForFrame();
 
     View* Find(std::string_view name) const;
     int Pixels(int twips) const;
@@ -68,8 +69,8 @@ private:
     Mirror mirror;
     Views views;
     std::unordered_map<const Control*, View*> byControl;
-    double scale = 0;             // logical pixels to the twip
-    std::optional<QPoint> place;  // of the form with its frame
-    QMargins frame;               // none until the window manager has made it
+    double scale = 0;             // logical pixels per twip
+    std::optional<QPoint> place;  // top left corner of the window's frame, in logical pixels
+    QMargins frame;               // null until the window manager has set it
     bool unloaded = false;
 };

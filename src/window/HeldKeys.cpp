@@ -14,24 +14,25 @@ bool HeldKeys::eventFilter(QObject* watched, QEvent* event) {
             releaseTime = key().timestamp();
             return false;
         case QEvent::ShortcutOverride: Note(key()); return false;
-        case QEvent::KeyPress: Note(key()); return Takes(key(), watched);
+        case QEvent::KeyPress: Note(key()); return Consumes(key(), watched);
         default: return false;
     }
 }
 
-// Under X a held key is released and pressed again, both at the same time. The toolkit marks only
-// those pairs of which it happens to see both events at once.
+// X repeats a held key as a release and a press with the same time stamp. The toolkit recognises
+// such a pair only if both events are already in its queue.
 void HeldKeys::Note(const QKeyEvent& press) {
     const bool paired = press.timestamp() != 0 && press.timestamp() == releaseTime;
     repeating = press.isAutoRepeat() || (paired && press.key() == releasedKey);
     if (!repeating) {
-        begunIn = QApplication::focusWidget();
+        pressedIn = QApplication::focusWidget();
     }
 }
 
-// A repetition of Enter would accept, unseen, a dialog that has just come up, and one of Space
-// would type in it. Space presses a button as it goes down, for each repetition brings a release.
-bool HeldKeys::Takes(const QKeyEvent& press, QObject* receiver) const {
+// A repeated Enter would accept a dialog that has just opened, before the user has seen it; a
+// repeated Space would type in it. Space presses a button on the key press, not on the release:
+// every repeat has a release.
+bool HeldKeys::Consumes(const QKeyEvent& press, QObject* receiver) const {
     if (press.key() == Qt::Key_Return || press.key() == Qt::Key_Enter) {
         return repeating;
     }
@@ -42,5 +43,5 @@ bool HeldKeys::Takes(const QKeyEvent& press, QObject* receiver) const {
     if (button != nullptr && !repeating) {
         button->click();
     }
-    return button != nullptr || (repeating && QApplication::focusWidget() != begunIn);
+    return button != nullptr || (repeating && QApplication::focusWidget() != pressedIn);
 }

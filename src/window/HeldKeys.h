@@ -1,4 +1,4 @@
-// Keys that the user holds: in no window of the program does a held key press twice.
+// Keeps a held key from pressing anything more than once, in every window of the program.
 #pragma once
 
 #include <QPointer>
@@ -11,7 +11,7 @@ class HeldKeys : public QObject {
 public:
     explicit HeldKeys(QWidget& owner);
 
-    /// Whether the last key press was the repetition of a held key.
+    /// Whether the last key press was a repeat of a held key.
     bool Repeating() const { return repeating; }
 
 protected:
@@ -19,10 +19,10 @@ protected:
 
 private:
     void Note(const QKeyEvent& press);
-    bool Takes(const QKeyEvent& press, QObject* receiver) const;
+    bool Consumes(const QKeyEvent& press, QObject* receiver) const;
 
     int releasedKey = 0;
     quint64 releaseTime = 0;
     bool repeating = false;
-    QPointer<QWidget> begunIn;  // what had the focus when the last key went down
+    QPointer<QWidget> pressedIn;  // had the focus at the last key press that was no repeat
 };

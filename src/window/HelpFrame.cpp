@@ -16,7 +16,7 @@
 
 namespace {
 
-constexpr int PlaceRole = Qt::UserRole;  // of a heading: its place in the text
+constexpr int PlaceRole = Qt::UserRole;  // a heading's offset in the text
 
 QToolButton* ArrowButton(Qt::ArrowType arrow, const QString& name, QWidget* parent) {
     auto* const button = new QToolButton(parent);
@@ -32,7 +32,7 @@ QTextEdit* NewPage(QWidget* parent) {
     page->setReadOnly(true);
     page->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     page->setFrameShape(QFrame::NoFrame);
-    // A word is found while the box that names it has the focus.
+    // A found word must be visible while the focus is in the Find box.
     QPalette palette = page->palette();
     for (const auto role : {QPalette::Highlight, QPalette::HighlightedText}) {
         palette.setColor(QPalette::Inactive, role, palette.color(QPalette::Active, role));
@@ -75,7 +75,7 @@ HelpFrame::HelpFrame()
     parts->setChildrenCollapsible(false);
     auto* const all = new QVBoxLayout(this);
     all->setContentsMargins({});
-    all->addLayout(FindRow());
+    all->addLayout(NewFindRow());
     all->addWidget(parts, 1);
 
     const auto follow = [this](const QTreeWidgetItem* heading) {
@@ -86,7 +86,7 @@ HelpFrame::HelpFrame()
     AddKeys();
 }
 
-QLayout* HelpFrame::FindRow() {
+QLayout* HelpFrame::NewFindRow() {
     auto* const caption = new QLabel("Find:", this);
     caption->setBuddy(word);
     word->setAccessibleName("Find");
@@ -113,7 +113,7 @@ QLayout* HelpFrame::FindRow() {
     return row;
 }
 
-HelpFrame::~HelpFrame() { page->setDocument(nullptr); }  // which goes first
+HelpFrame::~HelpFrame() { page->setDocument(nullptr); }  // destroyed before the page
 
 void HelpFrame::ShowDocument(std::unique_ptr<QTextDocument> next) {
     page->setDocument(next.get());
@@ -124,9 +124,9 @@ void HelpFrame::ShowDocument(std::unique_ptr<QTextDocument> next) {
 
 QSize HelpFrame::sizeHint() const { return InCharacters(fontMetrics(), 132, 42); }
 
-QSize HelpFrame::LeastSize() const { return InCharacters(fontMetrics(), 64, 16); }
+QSize HelpFrame::SmallestSize() const { return InCharacters(fontMetrics(), 64, 16); }
 
-// Side by side, headings and text would both be too narrow in a narrow window.
+// In a narrow window the headings are above the text: side by side, both would be too narrow.
 void HelpFrame::resizeEvent(QResizeEvent* event) {
     const QSize share = InCharacters(fontMetrics(), 34, 10);
     const bool narrow = width() < 3 * share.width();
@@ -140,7 +140,7 @@ void HelpFrame::resizeEvent(QResizeEvent* event) {
 }
 
 void HelpFrame::showEvent(QShowEvent* event) {
-    if (!event->spontaneous()) {  // or restoring the window would take the focus from the box
+    if (!event->spontaneous()) {  // restoring the window leaves the focus where it was
         page->setFocus();
     }
     QWidget::showEvent(event);
@@ -195,7 +195,7 @@ void HelpFrame::AskForWord() {
     word->selectAll();
 }
 
-// Escape leads from the box to what was found, and from there out of the window.
+// Escape moves from the Find box to the text, and from there closes the window.
 void HelpFrame::LeaveOrClose() {
     if (word->hasFocus()) {
         page->setFocus();
@@ -232,7 +232,7 @@ bool HelpFrame::FindFrom(const QTextCursor& start, Direction direction) {
 }
 
 void HelpFrame::Report(const QString& text) {
-    result->hide();  // also one that comes up again is said
+    result->hide();  // so that the same text is announced again
     result->setText(text);
     result->setAccessibleName(text);
     result->setVisible(!text.isEmpty());

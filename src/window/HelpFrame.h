@@ -1,5 +1,5 @@
-// The window in which the help is read: a list of the headings, the text, a box to find a word.
-// Where the text comes from is in HelpText.
+// The window that shows the help: a list of the headings, the text, a box to find a word. HelpText
+// reads the text.
 #pragma once
 
 #include <QLabel>
@@ -12,7 +12,7 @@ class QSplitter;
 class QTextEdit;
 class QTreeWidget;
 
-/// A text that a screen reader says as soon as it comes up.
+/// A text that a screen reader announces when it appears.
 class Notice : public QLabel {
     Q_OBJECT
 
@@ -20,6 +20,7 @@ public:
     using QLabel::QLabel;
 };
 
+/// A top-level window. Closing it hides it and does not end the program.
 class HelpFrame : public QWidget {
     Q_OBJECT
 
@@ -27,19 +28,19 @@ public:
     HelpFrame();
     ~HelpFrame() override;
 
-    /// Shows this document from its beginning.
+    /// Shows the document from its beginning and lists its headings. Not null.
     void ShowDocument(std::unique_ptr<QTextDocument> next);
 
-    /// The size at which the text is easy to read, and the smallest that is of any use.
+    /// A size at which the text is easy to read, and the smallest useful one, without the frame.
     QSize sizeHint() const override;
-    QSize LeastSize() const;
+    QSize SmallestSize() const;
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
 private:
-    QLayout* FindRow();
+    QLayout* NewFindRow();
     void AddKeys();
     void ListHeadings();
     void GoTo(int place);

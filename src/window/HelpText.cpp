@@ -11,7 +11,7 @@
 
 namespace {
 
-// The toolkit sets the tables of Markdown too tight to be read with ease.
+// The toolkit sets Markdown tables too tight to read easily.
 void SpaceTables(QTextDocument& document) {
     for (QTextFrame* frame : document.rootFrame()->childFrames()) {
         if (auto* const table = qobject_cast<QTextTable*>(frame)) {
@@ -54,11 +54,11 @@ QTextCharFormat PlainFormat(QTextCharFormat format) {
     return format;
 }
 
-// The toolkit would load pictures from wherever they are as soon as it lays out the document.
+// The toolkit would load images from wherever they are as soon as it lays out the document.
 void KeepTextOnly(QTextDocument& document) {
     std::vector<Reference> references = PicturesAndLinks(document);
     QTextCursor cursor(&document);
-    for (; !references.empty(); references.pop_back()) {  // from the end, or the places would move
+    for (; !references.empty(); references.pop_back()) {  // last first: offsets stay valid
         const auto& [start, end, format] = references.back();
         cursor.setPosition(start);
         cursor.setPosition(end, QTextCursor::KeepAnchor);
@@ -71,12 +71,12 @@ void KeepTextOnly(QTextDocument& document) {
 
 void ShowMarkdown(QTextDocument& document, const QString& markdown) {
     QTextCursor all(&document);
-    all.beginEditBlock();  // or each piece of a long paragraph would cost as much as the whole
+    all.beginEditBlock();  // otherwise each change lays out the whole paragraph again
     const QTextDocument::MarkdownFeatures tables = QTextDocument::MarkdownDialectGitHub;
     document.setMarkdown(markdown, tables | QTextDocument::MarkdownNoHTML);
     KeepTextOnly(document);
     all.endEditBlock();
-    SpaceTables(document);  // which are there now
+    SpaceTables(document);  // only now does the document contain them
 }
 
 void AddParagraph(QTextDocument& document, const QString& text) {
@@ -109,7 +109,7 @@ void Fill(QTextDocument& document, const QString& path, int number) {
 QString FindTopic(const QString& markdown, int number) {
     static const QRegularExpression mark("^# +", QRegularExpression::MultilineOption);
     static const QRegularExpression blank("\\s");
-    const QStringList topics = markdown.split(mark).mid(1);  // what comes before is no topic
+    const QStringList topics = markdown.split(mark).mid(1);  // text before the first heading
     for (const QString& topic : topics) {
         if (topic.section(blank, 0, 0) == QString::number(number)) {
             return "# " + topic.section(blank, 1);
@@ -119,7 +119,7 @@ QString FindTopic(const QString& markdown, int number) {
 }
 
 std::unique_ptr<QTextDocument> HelpDocument(const QString& path, int topic) {
-    // A document that is not on show yet is filled much faster.
+    // Filling a document is much faster before it is shown.
     auto document = std::make_unique<QTextDocument>();
     document->setDocumentMargin(12);
     Fill(*document, path, topic);

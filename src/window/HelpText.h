@@ -1,18 +1,18 @@
-// The text of the help: out of the help file, as a document that holds nothing but text. Where it
-// is shown is in HelpFrame.
+// Reads the help from the help file as a document without images, links or HTML. HelpFrame shows
+// it.
 #pragma once
 
 #include <QString>
 #include <QTextDocument>
 #include <memory>
 
-/// No more of a help file is read, in bytes; the document says so of a longer one.
+/// The most that is read of a help file, in bytes; the document says if there is more.
 constexpr int HelpLimit = 64 * 1024;
 
-/// The text of a topic out of a Markdown file in which a heading of the first level begins with
-/// the topic's number; without that number. Null if the file has no such topic.
+/// The Markdown of one topic. A topic starts at a first-level heading that begins with its number;
+/// the number is left out of the result. A null string if there is no such topic.
 QString FindTopic(const QString& markdown, int number);
 
-/// The topic as a document, or a sentence that says why there is none. Pictures and links are left
-/// out but for their text, and no other file is read. What is no regular file is not there.
+/// The topic as a document; if it cannot be read, a sentence that says why. Images and links are
+/// replaced by their text, and no other file is read. Only a regular file can be read. Never null.
 std::unique_ptr<QTextDocument> HelpDocument(const QString& path, int topic);

@@ -12,7 +12,7 @@ QString FileName(const CommonDialog& dialog) {
     return QFile::decodeName(QByteArray::fromStdString(dialog.HelpFile)).replace('\\', '/');
 }
 
-// As near to the point as there is room.
+// Centred on the point, as far as the room allows.
 QRect PlaceIn(const QRect& room, QPoint point, QSize wanted) {
     QRect place(QPoint(), wanted.boundedTo(room.size()));
     place.moveCenter(point);
@@ -23,7 +23,7 @@ QRect PlaceIn(const QRect& room, QPoint point, QSize wanted) {
 
 }  // namespace
 
-QRect PlaceBeside(const QRect& form, const QRect& screen, QSize wanted, QSize least) {
+QRect PlaceBeside(const QRect& form, const QRect& screen, QSize wanted, QSize smallest) {
     QRect right = screen;
     QRect left = screen;
     QRect below = screen;
@@ -33,7 +33,7 @@ QRect PlaceBeside(const QRect& form, const QRect& screen, QSize wanted, QSize le
     below.setTop(form.bottom() + 1);
     above.setBottom(form.top() - 1);
     for (const QRect& room : {right, left, below, above}) {
-        if (room.size().expandedTo(least) == room.size()) {
+        if (room.size().expandedTo(smallest) == room.size()) {
             return PlaceIn(room, form.center(), wanted);
         }
     }
@@ -53,7 +53,7 @@ void HelpWindow::ShowTopic(const CommonDialog& dialog) {
         viewer = std::make_unique<HelpFrame>();
         viewer->resize(viewer->sizeHint());
     }
-    // A reader who asks for the topic again is left at the place that was reached.
+    // Asking for the same topic again keeps the place that the user has reached.
     const bool again = viewer->isVisible() && topic == dialog.HelpContext;
     topic = dialog.HelpContext;
     if (!again) {
@@ -66,8 +66,8 @@ void HelpWindow::ShowTopic(const CommonDialog& dialog) {
     viewer->activateWindow();
 }
 
-// The title bar is taken to be as large as the form's. A place that the user has chosen stays
-// unless the form is there now.
+// Assumes a window frame as large as the form's. A window that the user has moved is left there,
+// unless it would cover the form.
 void HelpWindow::Place() {
     const QRect taken = form.window()->frameGeometry();
     const QRect inside = form.window()->geometry();
@@ -78,6 +78,6 @@ void HelpWindow::Place() {
     }
     const QRect place =
         PlaceBeside(taken, form.screen()->availableGeometry(), viewer->size().grownBy(bars),
-                    viewer->LeastSize().grownBy(bars));
+                    viewer->SmallestSize().grownBy(bars));
     viewer->setGeometry(place.marginsRemoved(bars));
 }

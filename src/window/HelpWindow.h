@@ -1,4 +1,5 @@
-// The help viewer: opens the window of the help beside the form, and closes it.
+// The help viewer: opens the help window beside the form, and closes it. The window itself is in
+// HelpFrame.
 #pragma once
 
 #include <memory>
@@ -6,16 +7,18 @@
 #include "shell/Services.h"
 #include "window/HelpFrame.h"
 
-/// Where a window of the wanted size is beside the form and over no part of it, within the screen:
-/// smaller if need be, but not below the least size. If there is no room, at the screen's right.
-QRect PlaceBeside(const QRect& form, const QRect& screen, QSize wanted, QSize least);
+/// Where to put a window of the wanted size on the screen so that it does not cover the form. It is
+/// made smaller if necessary, but not below `smallest`; if there is no room for that, it goes to
+/// the right of the screen, over the form. All sizes include the window frame, in logical pixels.
+QRect PlaceBeside(const QRect& form, const QRect& screen, QSize wanted, QSize smallest);
 
 class HelpWindow : public HelpViewer {
 public:
-    /// Opens beside this window, which has to outlive it.
+    /// The help opens beside this widget, which has to outlive the viewer.
     explicit HelpWindow(const QWidget& ownForm) : form(ownForm) {}
 
-    /// Shows the topic in front of the other windows, or closes the viewer if one was opened.
+    /// Shows the topic in front of the other windows, or closes the viewer if it is open. Does
+    /// nothing for any other `HelpCommand`.
     void ShowHelp(const CommonDialog& dialog) override;
 
 private:

@@ -6,8 +6,8 @@
 
 namespace {
 
-// The toolkit's own INI format gives backslashes, commas and quotes in a value a meaning of its
-// own, and would spoil a path.
+// The toolkit's own INI format interprets backslashes, commas and quotes in a value, which would
+// corrupt a path.
 bool ReadLines(QIODevice& file, QSettings::SettingsMap& values) {
     QString group;
     while (!file.atEnd()) {
@@ -37,7 +37,7 @@ QSettings::Format RawIni() {
 std::string IniSettings::Read(const std::string& section, const std::string& key,
                               const std::string& fallback) {
     const QString group = QString::fromStdString(section).section('\\', -1);
-    // Regular files only: to open a pipe would wait for somebody who writes to it.
+    // locateAll() finds regular files only: opening a pipe would wait for a writer.
     const QStringList files =
         QStandardPaths::locateAll(QStandardPaths::GenericConfigLocation, "Tephrex3.ini");
     for (const QString& file : files) {

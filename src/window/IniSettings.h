@@ -1,13 +1,13 @@
-// The settings store: an INI file `Tephrex3.ini` in the user's configuration folder, and
-// after it the system-wide one. They are read, and never written.
+// The settings store: the INI file `Tephrex3.ini` in the user's configuration folder, then the
+// system-wide ones. They are only read, never written.
 #pragma once
 
 #include "shell/Services.h"
 
 class IniSettings : public SettingsStore {
 public:
-    /// The last word of the section names the group of the file. The value arrives byte for byte
-    /// as it is in the file after the "=". What is no regular file is not there.
+    /// The part of `section` after the last backslash is the group in the file. Returns the bytes
+    /// after the "=" unchanged. Files that are not regular files are ignored.
     std::string Read(const std::string& section, const std::string& key,
                      const std::string& fallback) override;
 };

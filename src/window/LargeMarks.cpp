@@ -6,7 +6,7 @@
 
 namespace {
 
-// What a check box and an option are drawn of.
+// The style elements that a check box or an option button consists of.
 struct Parts {
     QStyle::SubElement markRect;
     QStyle::PrimitiveElement mark;
@@ -21,7 +21,8 @@ constexpr Parts OptionParts{QStyle::SE_RadioButtonIndicator, QStyle::PE_Indicato
                             QStyle::SE_RadioButtonContents, QStyle::CE_RadioButtonLabel,
                             QStyle::SE_RadioButtonFocusRect};
 
-// The application's style draws the parts, but some styles place them without asking the metrics.
+// The application's style still draws the parts; only sizes and places are computed here, as some
+// styles ignore the metrics.
 class LargeMarks : public QProxyStyle {
 public:
     LargeMarks(QAbstractButton& button, int ownSize)

@@ -1,8 +1,9 @@
-// The marks of check boxes and options in a large font. Styles draw them in one size for all fonts.
+// The indicators of check boxes and option buttons in a large font, here called marks. Styles draw
+// them in the same size for all fonts.
 #pragma once
 
 #include <QAbstractButton>
 
-/// Makes the mark of a check box or an option as high as its letters, where the style leaves it
-/// smaller. Otherwise the button keeps the application's style.
+/// Makes the mark of a check box or option button as high as its letters if the style would draw it
+/// smaller; otherwise changes nothing.
 void EnlargeMark(QAbstractButton& button);

@@ -16,7 +16,7 @@ bool IsPlainKey(const QKeyEvent& event) {
 }
 
 bool IsKeyPress(const QKeyEvent& event) {
-    return BringsCharacter(event) || IsPlainKey(event) || event.matches(QKeySequence::Cut) ||
+    return TypesCharacter(event) || IsPlainKey(event) || event.matches(QKeySequence::Cut) ||
            event.matches(QKeySequence::Paste);
 }
 
@@ -24,12 +24,12 @@ bool IsKeyPress(const QKeyEvent& event) {
 
 LineBox::LineBox(QWidget* parent) : TextLine(parent) {
     connect(this, &QLineEdit::textEdited, this, [this] { editedByUser = true; });
-    connect(this, &QLineEdit::textChanged, this, &LineBox::TellIfEdited);
-    connect(this, &QLineEdit::selectionChanged, this, &LineBox::TellIfMoved);
-    connect(this, &QLineEdit::cursorPositionChanged, this, &LineBox::TellIfMoved);
+    connect(this, &QLineEdit::textChanged, this, &LineBox::ReportIfEdited);
+    connect(this, &QLineEdit::selectionChanged, this, &LineBox::ReportIfMoved);
+    connect(this, &QLineEdit::cursorPositionChanged, this, &LineBox::ReportIfMoved);
 }
 
-// The toolkit announces what is typed, pasted or set, but not what is undone or done again.
+// The toolkit announces typed, pasted and set text, but not undo and redo.
 void LineBox::AnnounceIfUndone() {
     const bool couldRedo = std::exchange(canRedo, isRedoAvailable());
     const QString before = std::exchange(known, text());
@@ -39,9 +39,9 @@ void LineBox::AnnounceIfUndone() {
     }
 }
 
-// The toolkit says "edited" just before "changed" of what the user does with the box itself. An
-// assistive technology sets the text, as code does.
-void LineBox::TellIfEdited() {
+// For edits in the box itself, the toolkit emits textEdited just before textChanged. An assistive
+// technology sets the text, as code does, and causes textChanged only.
+void LineBox::ReportIfEdited() {
     const bool byUser = std::exchange(editedByUser, false);
     AnnounceIfUndone();
     if (!inKeyPress) {
@@ -49,14 +49,14 @@ void LineBox::TellIfEdited() {
     }
 }
 
-void LineBox::TellIfMoved() {
+void LineBox::ReportIfMoved() {
     if (!inKeyPress) {
         emit SelectionMoved();
     }
 }
 
 QString LineBox::Delivered(const QString& typed) const {
-    const bool onKeyboards = decimalSign == nullptr || decimalSign->size() == 1;  // that is ASCII
+    const bool onKeyboards = decimalSign == nullptr || decimalSign->size() == 1;  // so ASCII
     return !onKeyboards && (typed == "." || typed == ",") ? ToScreen(*decimalSign) : typed;
 }
 
@@ -87,23 +87,23 @@ void LineBox::focusInEvent(QFocusEvent* event) {
     TextLine::focusInEvent(event);
 }
 
-// The click that brings the focus leaves the whole text selected. It is not handed on, for it
-// would put the insertion point in place of the selection.
+// The click that gives the box the focus leaves the whole text selected. The base class does not
+// get it, as it would clear the selection.
 void LineBox::mousePressEvent(QMouseEvent* event) {
-    clickSpent = std::exchange(focusByMouse, false) && event->button() == Qt::LeftButton;
-    if (!clickSpent) {
+    ignoreClick = std::exchange(focusByMouse, false) && event->button() == Qt::LeftButton;
+    if (!ignoreClick) {
         TextLine::mousePressEvent(event);
     }
 }
 
 void LineBox::mouseMoveEvent(QMouseEvent* event) {
-    if (!clickSpent) {
+    if (!ignoreClick) {
         TextLine::mouseMoveEvent(event);
     }
 }
 
 void LineBox::mouseReleaseEvent(QMouseEvent* event) {
-    if (!std::exchange(clickSpent, false)) {
+    if (!std::exchange(ignoreClick, false)) {
         TextLine::mouseReleaseEvent(event);
     }
 }

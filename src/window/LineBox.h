@@ -1,4 +1,5 @@
-// A line of text that tells a key press from any other edit. It knows no control.
+// A line of text that distinguishes key presses from other edits. It does not depend on the
+// controls of the form.
 #pragma once
 
 #include <string>
@@ -11,19 +12,19 @@ class LineBox : public TextLine {
 public:
     explicit LineBox(QWidget* parent);
 
-    /// The box is one for numbers. Where their decimal sign is on no ordinary keyboard, a typed
-    /// period or comma arrives as that sign. The sign is UTF-8 and has to outlive the box.
-    void TypeDecimals(const std::string& sign) { decimalSign = &sign; }
+    /// Makes this a box for numbers with this decimal sign. If the sign is not ASCII, typing a
+    /// period or comma enters it. The sign is UTF-8 and has to outlive the box.
+    void SetDecimalSign(const std::string& sign) { decimalSign = &sign; }
 
 signals:
-    /// A key was pressed that brings or takes a character at the insertion point, and the text is
-    /// as the key left it, which can be as it was.
+    /// A key was pressed that can insert or delete at the insertion point, and the text is up to
+    /// date. It need not have changed.
     void KeyPressed();
     /// The user changed the text in any other way.
     void Edited();
     /// The text was set, by code or through an assistive technology.
     void TextSet();
-    /// The selection or the insertion point has moved, and no key press is going on.
+    /// The selection or the insertion point has changed, other than by such a key press.
     void SelectionMoved();
 
 protected:
@@ -35,16 +36,16 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
 
 private:
-    void TellIfEdited();
+    void ReportIfEdited();
     void AnnounceIfUndone();
-    void TellIfMoved();
+    void ReportIfMoved();
     QString Delivered(const QString& typed) const;
 
-    const std::string* decimalSign = nullptr;  // none: no box for numbers
+    const std::string* decimalSign = nullptr;  // null: not a box for numbers
     bool inKeyPress = false;
-    bool editedByUser = false;  // and the change has still to be reported
+    bool editedByUser = false;  // but the change is not reported yet
     bool canRedo = false;       // after the last change
     QString known;              // the text after the last change
-    bool focusByMouse = false;  // and the click that brought it is still to come
-    bool clickSpent = false;    // on bringing the focus, until the button is released
+    bool focusByMouse = false;  // but its click has not arrived yet
+    bool ignoreClick = false;   // it gave the box the focus; until the button is released
 };

@@ -28,7 +28,7 @@ ListBox::ListBox(QWidget* parent)
     setModel(entries);
     connect(this, &QComboBox::activated, this, &ListBox::PickIfJustClosed);
     connect(view()->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-            &ListBox::PickIfSelectedFromAfar, Qt::QueuedConnection);
+            &ListBox::PickIfSelectedExternally, Qt::QueuedConnection);
 }
 
 void ListBox::SetEntries(const QStringList& shown) {
@@ -57,8 +57,8 @@ void ListBox::showPopup() {
     view()->setCurrentIndex(found.value(0));
 }
 
-// The toolkit closes the list and then says "activated". It says so on other occasions too, and
-// even of a text that code has set: they all begin with a key in the box or with leaving it.
+// The toolkit closes the list and then emits activated. It also emits it on other occasions, even
+// for a text set by code, but always after a key press in the box or after a loss of focus.
 void ListBox::hidePopup() {
     justClosed = true;
     QComboBox::hidePopup();
@@ -70,9 +70,9 @@ void ListBox::PickIfJustClosed(int position) {
     }
 }
 
-// Mouse and keys move the highlight of the open list and with it the selection. A helping
-// technology selects an entry where the highlight is not, and that is its choice.
-void ListBox::PickIfSelectedFromAfar() {
+// Mouse and keys move the current entry and the selection of the open list together. An assistive
+// technology picks an entry by selecting one that is not the current entry.
+void ListBox::PickIfSelectedExternally() {
     const QModelIndex selected = view()->selectionModel()->selectedIndexes().value(0);
     if (view()->isVisible() && selected.isValid() && selected != view()->currentIndex()) {
         hidePopup();
@@ -89,7 +89,7 @@ void ListBox::initStyleOption(QStyleOptionComboBox* option) const {
 void ListBox::keyPressEvent(QKeyEvent* event) {
     justClosed = false;
     if (MovesInList(event->key())) {
-        showPopup();  // to walk through a closed list would pick each entry on the way
+        showPopup();  // moving through a closed list would pick every entry on the way
     } else {
         QComboBox::keyPressEvent(event);
     }

@@ -1,5 +1,5 @@
-// A drop-down list with an editable box, in which only an entry chosen in the open list is a
-// pick. It knows no control, and keeps its arrow within its contents margins.
+// A drop-down list with an editable box. Only an entry chosen in the open list counts as picked. It
+// does not depend on the controls of the form. It draws its arrow within its contents margins.
 #pragma once
 
 #include <QComboBox>
@@ -13,18 +13,19 @@ class ListBox : public QComboBox {
 public:
     explicit ListBox(QWidget* parent);
 
-    /// Takes over the entries if they are others. The text of the box is then undefined.
+    /// Replaces the entries if they differ. The text in the box is then undefined.
     void SetEntries(const QStringList& shown);
 
-    /// The smallest size at which the box shows the whole of such a text, with the arrow and the
-    /// borders that it has at its present size.
+    /// The smallest size that shows the whole text, with the arrow and the borders that the box has
+    /// at its current size. Resizes the line in the box.
     QSize SizeFor(const QString& shown);
 
     void showPopup() override;
     void hidePopup() override;
 
 signals:
-    /// The user picked this entry, by click or Enter, in the open list.
+    /// The user picked this entry, counted from 0, in the open list: by click, Enter or an
+    /// assistive technology.
     void Picked(int position);
 
 protected:
@@ -35,9 +36,9 @@ protected:
 
 private:
     void PickIfJustClosed(int position);
-    void PickIfSelectedFromAfar();
+    void PickIfSelectedExternally();
 
     TextLine* line;
     QStringListModel* entries;
-    bool justClosed = false;  // the list, and no key or loss of focus has come since
+    bool justClosed = false;  // the list; no key press or loss of focus since then
 };

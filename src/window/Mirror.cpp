@@ -20,11 +20,11 @@ void Mirror::Mark(Mirrored& view) {
 
 void Mirror::BringUpToDate() {
     if (updating) {
-        return;  // the loop below is running and comes to the new marks by itself
+        return;  // the loop below is running and will reach the new marks
     }
     updating = true;
-    // The focus leaves a widget that becomes disabled, and marks more by what it sets off. It goes
-    // to the widget of an enabled control: so those come first.
+    // Disabling a widget moves the focus to the widget of an enabled control, which must be enabled
+    // by then: so those come first. The change of focus can mark more views.
     const auto enabled = [](const Mirrored* view) { return view->IsEnabled(); };
     while (!marked.empty()) {
         const auto found = std::find_if(marked.begin(), marked.end(), enabled);

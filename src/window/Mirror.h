@@ -1,5 +1,5 @@
-// When views are brought up to date: as soon as the user action has ended, and not once for each
-// change within it. What a view shows is none of its business.
+// Decides when views are updated: once, when a user action ends, and not for each change within it.
+// What a view shows is in the views.
 #pragma once
 
 #include <QObject>
@@ -7,12 +7,13 @@
 
 class Control;
 
-/// What the mirror brings up to date: the view of one control.
+/// What the mirror updates: the view of one control.
 class Mirrored {
 public:
     virtual ~Mirrored() = default;
+    /// Makes the widget show the control's current state.
     virtual void Update() = 0;
-    /// Whether the control is enabled, which the widget may not show yet.
+    /// Whether the control is enabled; the widget may still have to be updated.
     virtual bool IsEnabled() const = 0;
 
 protected:
@@ -21,10 +22,11 @@ protected:
     Mirrored& operator=(const Mirrored&) = default;
 };
 
+/// A marked view must not be destroyed before its update.
 class Mirror : public QObject {
 public:
-    /// Lives in every function through which the toolkit delivers a user action. They nest; the
-    /// marked views are brought up to date when the outermost one ends.
+    /// Create one in every function through which the toolkit delivers a user action. They can
+    /// nest; the marked views are updated when the outermost one is destroyed.
     class UserAction {
     public:
         explicit UserAction(Mirror& ownMirror) : mirror(ownMirror) { ++mirror.depth; }
@@ -36,18 +38,18 @@ public:
         Mirror& mirror;
     };
 
-    /// The control of this view has changed. Outside of any user action the view follows as soon
-    /// as the toolkit has time for it.
+    /// Call it when the control of this view has changed. Outside any user action, the view is
+    /// updated from the event loop.
     void Mark(Mirrored& view);
 
-    /// Brings all marked views up to date, with those that are marked in the course of it.
+    /// Updates all marked views, including those marked meanwhile.
     void BringUpToDate();
 
     /// Remembers the box in which the user last worked; null before the first.
     void NoteWork(const Control& box) { lastBox = &box; }
     const Control* LastBox() const { return lastBox; }
 
-    /// A signal that a widget gives meanwhile is an echo of the mirror and no user action.
+    /// Whether views are being updated. Signals that widgets emit meanwhile are no user actions.
     bool Updating() const { return updating; }
 
 private:

@@ -9,7 +9,7 @@
 
 namespace {
 
-// The name in a question that the toolkit's file dialog asks by itself gets its stand-ins.
+// Puts stand-ins into the file name in the questions that the toolkit's file dialog asks.
 QString Shown(const QString& text) {
     for (const QString& question :
          {QFileDialog::tr("'%1' is write protected.\nDo you want to delete it anyway?"),
@@ -24,7 +24,7 @@ QString Shown(const QString& text) {
     return text;
 }
 
-// A label is polished once, before it is first seen. What it is set to later stays plain.
+// A label is polished once, before it is first shown. Later texts are then plain, too.
 class PlainLabels : public QObject {
 public:
     using QObject::QObject;

@@ -1,8 +1,8 @@
-// Texts of boxes, tips and labels are plain text, whoever makes them.
+// Shows the texts of message boxes, tips and labels as plain text, never as markup.
 #pragma once
 
 class QObject;
 
-/// From now on and while `owner` lives, a label of any window shows its text as plain text unless
-/// it was made for markup. Names in the toolkit's own questions get their stand-ins.
+/// As long as `owner` lives, labels of all windows show plain text, unless they were explicitly set
+/// to markup. File names in questions of the toolkit are shown with stand-ins.
 void KeepLabelsPlain(QObject& owner);

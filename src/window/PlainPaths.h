@@ -1,4 +1,4 @@
-// Paths are shown as they are.
+// The path helper on this platform: paths are shown unchanged.
 #pragma once
 
 #include "shell/Services.h"

@@ -7,8 +7,8 @@
 
 namespace {
 
-// Windows-1252 from 0x80 to 0x9F; elsewhere a byte is the character of the same number. The five
-// bytes without a character stay control characters.
+// Windows-1252 from 0x80 to 0x9F; any other byte is the character with the same code. The five
+// bytes without a character become control characters.
 constexpr std::array<char16_t, 32> Windows1252{
     u'\u20AC', u'\u0081', u'\u201A', u'\u0192', u'\u201E', u'\u2026', u'\u2020', u'\u2021',
     u'\u02C6', u'\u2030', u'\u0160', u'\u2039', u'\u0152', u'\u008D', u'\u017D', u'\u008F',
@@ -36,8 +36,8 @@ QString Decoded(std::string_view bytes) {
     return text;
 }
 
-// Line ends of Unicode, and the marks that embed, override or isolate a direction of writing. Those
-// between words of two scripts are ordinary parts of names and are left alone.
+// Unicode line ends, and the characters that embed, override or isolate a writing direction. Plain
+// direction marks are ordinary parts of names and are left alone.
 bool BreaksOrTurnsLine(char16_t code) {
     return (code >= 0x2028 && code <= 0x202E) || (code >= 0x2066 && code <= 0x2069);
 }
@@ -46,8 +46,9 @@ bool NeedsStandIn(QChar character) {
     return character.category() == QChar::Other_Control || BreaksOrTurnsLine(character.unicode());
 }
 
-// The second half of a surrogate pair without its first: fonts show it as a replacement character.
-// Its lower bits keep the character; those from U+2000 on are the ones that are no control there.
+// A stand-in is a low surrogate without its high one: fonts show it as a replacement character. Its
+// low bits are those of the character. If the character with these bits alone needs no stand-in,
+// the original was the one from U+2000 on.
 constexpr char16_t LoneHalf = 0xDC00;
 constexpr char16_t Kept = 0x3FF;
 
@@ -111,7 +112,7 @@ std::size_t BytePlace(std::string_view bytes, int place) {
 }
 
 QSize RoomToEdit(const QString& shown, const QFontMetrics& metrics) {
-    constexpr int sideMargins = 4;  // that the toolkit keeps free beside the text
+    constexpr int sideMargins = 4;  // between the text and the toolkit's frame, in pixels
     constexpr int caret = 1;
     return {metrics.horizontalAdvance(shown) + sideMargins + caret, metrics.height()};
 }

@@ -1,5 +1,5 @@
-// Texts on the screen: between the bytes that a control holds and the characters that a widget
-// shows. Paths of the file system are not turned here, but by the toolkit.
+// Converts between the bytes in a control and the characters in a widget. Paths for the file system
+// are converted by the toolkit, not here.
 #pragma once
 
 #include <QFontMetrics>
@@ -9,28 +9,28 @@
 #include <string>
 #include <string_view>
 
-/// A visible stand-in for each control character, line end or mark that turns the direction of
-/// writing: shown as they are, they would be invisible, cut a line off or reorder it. A stand-in is
-/// a character that no UTF-8 gives, so it cannot be taken for any other: texts can be edited,
-/// copied and undone with their stand-ins, and `WithoutStandIns` gives the same text back.
+/// Replaces each control character, line end and bidirectional control by a visible stand-in: on
+/// the screen it would be invisible, cut off the line or reorder it. Stand-ins never occur in
+/// decoded UTF-8, so texts can be edited, copied and undone with them, and `WithoutStandIns`
+/// restores the original text.
 QString WithStandIns(QString text);
 QString WithoutStandIns(QString shown);
 
-/// A name for a message, with stand-ins and with places at which a long one can go on in the next
-/// line.
+/// A file name for a message, with stand-ins and, if it is long, with places where the line can
+/// break.
 QString NameInMessage(const QString& name);
 
-/// UTF-8 is shown as such, with stand-ins. Bytes that are not UTF-8 as a whole are taken for
-/// Windows-1252, in which any byte is some character.
+/// The bytes as text with stand-ins. They are decoded as UTF-8 or, if any of them is not valid
+/// UTF-8, as Windows-1252, where every byte is a character.
 QString ToScreen(std::string_view bytes);
 
-/// What the user wrote, as UTF-8 and without stand-ins.
+/// The text of a widget as UTF-8, without stand-ins.
 std::string FromScreen(const QString& shown);
 
-/// A place in a text, counted in bytes, as a place in the text on show, and back. A place behind
-/// the end counts as the end.
+/// Converts an offset in the bytes into one in the text that ToScreen makes of them (in UTF-16
+/// units), and back. An offset after the end counts as the end; it must not be negative.
 int ScreenPlace(std::string_view bytes, std::size_t place);
 std::size_t BytePlace(std::string_view bytes, int place);
 
-/// The room that such a text takes while it can be edited, its insertion point included.
+/// The size that a text needs in an edit box, in logical pixels, including the insertion point.
 QSize RoomToEdit(const QString& shown, const QFontMetrics& metrics);

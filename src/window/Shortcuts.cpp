@@ -11,7 +11,7 @@
 
 namespace {
 
-// Past the ends of the list there is nothing to pick.
+// Numbers outside the list pick nothing; Pick checks its end.
 void PickPhase(RecordEdit& form, int number) {
     if (number >= 1) {
         form.cmbPhase.Pick(static_cast<std::size_t>(number) - 1);

@@ -1,10 +1,10 @@
-// The keys that act on the whole form, wherever the focus is. What they do is what the user could
-// do with the mouse: they go through the same doors.
+// The keys that act on the whole form, wherever the focus is. They do what the user could also do
+// with the mouse, through the same user actions of the controls.
 #pragma once
 
 struct RecordEdit;
 class Mirror;
 class QWidget;
 
-/// Gives the window its keys. Form and mirror have to outlive the window.
+/// Adds the keys to the window. Form and mirror have to outlive it.
 void AddShortcuts(QWidget& window, RecordEdit& form, Mirror& mirror);

@@ -22,8 +22,8 @@ void SizeLimits::Lift() {
     }
 }
 
-// The toolkit queues what the compositor imposes, as a call of its own window object, and carries
-// it out there and then. After the first time, when it does not queue it, the window is exposed.
+// The toolkit queues an imposed size as a call to its platform window, which applies it at once.
+// The first size is not queued, but the window is exposed after it.
 bool SizeLimits::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::MetaCall && watched->inherits("QtWaylandClient::QWaylandWindow")) {
         Lift();
@@ -34,8 +34,8 @@ bool SizeLimits::eventFilter(QObject* watched, QEvent* event) {
     return QObject::eventFilter(watched, event);
 }
 
-// A frame that the toolkit draws lets its edges be dragged in spite of the limits. Any other size
-// than the window's own stays, and the limits away, until the compositor takes it back.
+// A frame drawn by the toolkit can be dragged in spite of the limits: then the window gets its own
+// size back. An imposed size is kept, without limits, until the compositor withdraws it.
 void SizeLimits::Restore() {
     const QSize own = window.minimumSize();
     const bool imposed = window.isMaximized() || window.isFullScreen() ||

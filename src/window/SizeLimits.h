@@ -1,16 +1,17 @@
-// Under Wayland: the limits of the window's size, which say that it is fixed, out of the way while
-// the compositor imposes a size. The toolkit would cut that size down to the limits, and a
-// compositor ends a program whose maximised window has another size.
+// Lifts the limits that fix the window's size while a Wayland compositor imposes a size. The
+// toolkit would keep the window within the limits, and a compositor ends a program whose maximised
+// window does not have the imposed size.
 #pragma once
 
 #include <QWidget>
 
 class SizeLimits : public QObject {
 public:
-    /// Belongs to the window. On other platforms it does nothing: there any size arrives.
+    /// The window becomes its parent. On other platforms it does nothing: there the limits do no
+    /// harm.
     explicit SizeLimits(QWidget& ownWindow);
 
-    /// To be called before the window is shown, for a size can be imposed on it from the beginning.
+    /// Call it before the window is shown: a size can be imposed from the start.
     void Lift();
 
 protected:

@@ -9,7 +9,7 @@
 
 namespace {
 
-// Control and Alt together are the AltGr of some keyboards.
+// Control and Alt together are AltGr on some keyboards.
 bool IsChord(Qt::KeyboardModifiers held) {
     held &= Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
     return held != 0 && held != (Qt::ControlModifier | Qt::AltModifier);
@@ -19,14 +19,14 @@ bool IsText(const QString& text) {
     return !text.isEmpty() && text.front().category() != QChar::Other_Control;
 }
 
-// With Control the toolkit does not type, but for the digits and signs of the keypad.
-bool IsDeadChord(const QKeyEvent& event) {
+// With Control the toolkit itself types only the digits and signs of the keypad.
+bool IsIgnoredChord(const QKeyEvent& event) {
     const auto held = event.modifiers();
     return IsChord(held) && (held.testFlag(Qt::AltModifier) || held.testFlag(Qt::MetaModifier) ||
                              (held.testFlag(Qt::KeypadModifier) && IsText(event.text())));
 }
 
-bool BringsFile(const QEvent& event) {
+bool DragsFile(const QEvent& event) {
     const bool dragged = event.type() == QEvent::DragEnter || event.type() == QEvent::DragMove ||
                          event.type() == QEvent::Drop;
     return dragged && static_cast<const QDropEvent&>(event).mimeData()->hasUrls();
@@ -34,7 +34,7 @@ bool BringsFile(const QEvent& event) {
 
 }  // namespace
 
-bool BringsCharacter(const QKeyEvent& event) {
+bool TypesCharacter(const QKeyEvent& event) {
     return !IsChord(event.modifiers()) && IsText(event.text());
 }
 
@@ -47,8 +47,8 @@ QSize TextLine::SizeFor(const QString& shown) const {
 
 bool TextLine::event(QEvent* event) {
     const bool chord =
-        event->type() == QEvent::KeyPress && IsDeadChord(static_cast<const QKeyEvent&>(*event));
-    if (chord || BringsFile(*event)) {
+        event->type() == QEvent::KeyPress && IsIgnoredChord(static_cast<const QKeyEvent&>(*event));
+    if (chord || DragsFile(*event)) {
         event->ignore();
         return true;
     }

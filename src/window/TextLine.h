@@ -1,5 +1,5 @@
-// A line of text to type in, which both kinds of box have. No chord types or edits in it, and a
-// dragged file does not become its text.
+// The edit line of text boxes and combo boxes. Key combinations type nothing in it, and files
+// cannot be dropped on it.
 #pragma once
 
 #include <QLineEdit>
@@ -10,13 +10,13 @@ class TextLine : public QLineEdit {
 public:
     using QLineEdit::QLineEdit;
 
-    /// The smallest size at which the line shows the whole of such a text, with the borders that
-    /// it has at its present size.
+    /// The smallest size that shows the whole text, with the borders that the line has at its
+    /// current size.
     QSize SizeFor(const QString& shown) const;
 
 protected:
     bool event(QEvent* event) override;
 };
 
-/// Whether a key brings a character at the insertion point.
-bool BringsCharacter(const QKeyEvent& event);
+/// Whether a key press types a character.
+bool TypesCharacter(const QKeyEvent& event);

@@ -6,7 +6,7 @@
 #include "window/ScreenText.h"
 
 View::View(const ViewParts& parts, QWidget& ownWidget)
-    : original(parts.control), row(parts.row), widget(ownWidget), mirror(parts.mirror) {
+    : shownControl(parts.control), row(parts.row), widget(ownWidget), mirror(parts.mirror) {
     widget.setObjectName(ToScreen(row.name));
     widget.setMouseTracking(true);
     widget.ensurePolished();
@@ -14,18 +14,18 @@ View::View(const ViewParts& parts, QWidget& ownWidget)
 }
 
 void View::Update() {
-    widget.setToolTip(ToScreen(original.ToolTipText()));
-    widget.setVisible(original.Visible());
-    widget.setEnabled(original.Enabled());
+    widget.setToolTip(ToScreen(shownControl.ToolTipText()));
+    widget.setVisible(shownControl.Visible());
+    widget.setEnabled(shownControl.Enabled());
 }
 
 bool View::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::MouseMove) {
         const Mirror::UserAction action(mirror);
-        original.MoveMouse();
+        shownControl.MoveMouse();
     }
     if (event->type() == QEvent::ToolTip && widget.toolTip().isEmpty()) {
-        // Left to itself, the event would go on to the frame and show the frame's tip.
+        // Otherwise the event would reach the frame and show the frame's tip.
         QToolTip::hideText();
         return true;
     }
@@ -44,19 +44,19 @@ QColor Mixed(const QColor& one, const QColor& other, float share) {
 
 QPalette ReadableWhenGreyed(QPalette palette) {
     constexpr float shareOfText = 0.6F;  // enough for a contrast of 3:1 on any usual desktop
-    const QColor back = palette.color(QPalette::Disabled, QPalette::Window);
-    palette.setColor(QPalette::Disabled, QPalette::Base, back);
+    const QColor background = palette.color(QPalette::Disabled, QPalette::Window);
+    palette.setColor(QPalette::Disabled, QPalette::Base, background);
     for (const auto role : {QPalette::WindowText, QPalette::Text}) {
         const QColor text = palette.color(QPalette::Active, role);
-        palette.setColor(QPalette::Disabled, role, Mixed(text, back, shareOfText));
+        palette.setColor(QPalette::Disabled, role, Mixed(text, background, shareOfText));
     }
     return palette;
 }
 
-QPalette PalePalette(QPalette palette, QColor back) {
+QPalette PalePalette(QPalette palette, QColor background) {
     constexpr QColor greyed(112, 112, 112);
     for (const auto role : {QPalette::Window, QPalette::Base}) {
-        palette.setColor(role, back);
+        palette.setColor(role, background);
     }
     for (const auto role : {QPalette::WindowText, QPalette::Text}) {
         palette.setColor(role, Qt::black);

@@ -1,6 +1,6 @@
-// A view: one control on the screen. It brings a widget up to date with its control, and hands
-// what the user does with the widget to the control's doors. The classes for the kinds of control
-// are in Views.
+// A view: one control on the screen. It updates a widget from its control, and forwards user
+// actions on the widget to the control. The classes for the kinds of control are in Views and
+// BoxViews.
 #pragma once
 
 #include <QColor>
@@ -16,7 +16,8 @@
 #include "form/Controls.h"
 #include "window/Mirror.h"
 
-/// What a view is made of: a control, its row of the catalogue, the widget to sit on.
+/// What a view is made from: a control, its row of the catalogue, the parent of the new widget. All
+/// but the parent have to outlive the view.
 struct ViewParts {
     Control& control;
     const CatalogueRow& row;
@@ -25,26 +26,27 @@ struct ViewParts {
     const Separators& separators;
 };
 
+/// Keeps the tip, the visibility and the enabled state of the widget up to date.
 class View : public QObject, public Mirrored {
 public:
-    /// The widget belongs to the parts's parent.
+    /// The widget is owned by its parent and has to outlive the view.
     View(const ViewParts& parts, QWidget& ownWidget);
 
-    Control& Original() const { return original; }
+    Control& ShownControl() const { return shownControl; }
     const CatalogueRow& Row() const { return row; }
     QWidget& Widget() const { return widget; }
 
-    /// Brings the widget up to date; what is so already is not touched.
+    /// Makes the widget show the control's current state; changes nothing that is already right.
     void Update() override;
-    bool IsEnabled() const override { return original.Enabled(); }
+    bool IsEnabled() const override { return shownControl.Enabled(); }
 
-    /// The smallest size at which the widget cuts nothing off such a text. The widget can be left
-    /// with that text until the next update.
+    /// The smallest size at which the widget shows the whole text. The widget may keep that text
+    /// until the next update.
     virtual QSize SizeWith(const QString& text) = 0;
 
 protected:
-    /// A user action that arrived through the widget, unless it is an echo. The control may
-    /// refuse it, so the view is brought up to date in any case.
+    /// Runs a user action that arrived through the widget, unless an update of the views caused it.
+    /// The control may refuse the action, so the view is updated in any case.
     template <class Action>
     void OnUserAction(Action action) {
         if (!mirror.Updating()) {
@@ -54,8 +56,8 @@ protected:
         }
     }
 
-    /// The same for text that an assistive technology has set. The toolkit announces that text as
-    /// soon as this returns, so the view follows later: the last text heard is the one on show.
+    /// The same for text set by an assistive technology. The toolkit announces that text as soon as
+    /// this returns, so the view is updated later: the last text announced is then the one shown.
     template <class Action>
     void OnTextSet(Action action) {
         if (!mirror.Updating()) {
@@ -64,13 +66,13 @@ protected:
         }
     }
 
-    /// The user works in this box.
-    void NoteWork() { mirror.NoteWork(original); }
+    /// Records that the user works in this box.
+    void NoteWork() { mirror.NoteWork(shownControl); }
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    Control& original;
+    Control& shownControl;
     const CatalogueRow& row;
     QWidget& widget;
     Mirror& mirror;
@@ -78,7 +80,8 @@ private:
 
 using Views = std::vector<std::unique_ptr<View>>;
 
-/// A view that knows the kinds of its control and of its widget.
+/// A view with the types of its control and widget. Throws std::bad_cast if the control is of
+/// another type.
 template <class ControlType, class WidgetType>
 class ViewOf : public View {
 public:
@@ -95,8 +98,8 @@ private:
           widget(ownWidget) {}
 };
 
-/// The palette with a pale back, and dark text on it: the back is as pale on a dark desktop.
-QPalette PalePalette(QPalette palette, QColor back);
+/// The palette with this pale background, also on a dark desktop, and with dark text on it.
+QPalette PalePalette(QPalette palette, QColor background);
 
-/// The palette with greyed texts that can still be read: messages speak of what they show.
+/// The palette with disabled texts that are greyed but readable: messages refer to them.
 QPalette ReadableWhenGreyed(QPalette palette);

@@ -56,8 +56,8 @@ public:
     void Update() override {
         const QString caption = ToScreen(control.Caption());
         if (IsOutputField()) {
-            // The end of a long path says more than its beginning.
-            NameAloud(widget, caption);
+            // The end of a long path matters more than its beginning.
+            SetSpokenName(widget, caption);
             widget.setText(widget.fontMetrics().elidedText(caption, Qt::ElideLeft,
                                                            widget.contentsRect().width()));
         } else {
@@ -91,7 +91,7 @@ public:
     void Update() override {
         const QString caption = ToScreen(control.Caption());
         widget.setText(Shown(caption));
-        NameAloud(widget, caption);
+        SetSpokenName(widget, caption);
         widget.setChecked(control.Value() == 1);
         View::Update();
     }
@@ -102,11 +102,11 @@ public:
     }
 
 private:
-    // The mark keeps a colon at the end of the caption, though the widget runs from right to left.
+    // A left-to-right mark keeps a colon at the end of the caption in the right-to-left widget.
     static QString Shown(const QString& caption) { return caption + QChar(0x200E); }
 };
 
-// The arrow keys choose the option before or after, as in a group of the toolkit's.
+// The arrow keys choose the previous or next option, as in an auto-exclusive group of the toolkit.
 class OptionWidget : public QRadioButton {
 public:
     using QRadioButton::QRadioButton;
@@ -123,7 +123,7 @@ protected:
     }
 
 private:
-    // The chain is a ring, so the last option is followed by the first.
+    // The focus chain is a ring, so the first option follows the last.
     void Choose(QWidget* (QWidget::*neighbour)() const, Qt::FocusReason reason) {
         const auto isOption = [this](QWidget* widget) {
             return widget->parentWidget() == parentWidget() && widget->isEnabled() &&
@@ -142,7 +142,7 @@ class OptionButtonView : public ViewOf<OptionButton, OptionWidget> {
 public:
     explicit OptionButtonView(const ViewParts& parts) : ViewOf(parts) {
         EnlargeMark(widget);
-        widget.setAutoExclusive(false);  // or the Tab key would reach one of the group only
+        widget.setAutoExclusive(false);  // or the Tab key would reach only one of the group
         connect(&widget, &QRadioButton::toggled, this, [this](bool checked) {
             if (checked != control.Value()) {
                 OnUserAction([this] { control.Choose(); });
@@ -152,7 +152,7 @@ public:
 
     void Update() override {
         widget.setText(ToScreen(control.Caption()));
-        NameAloud(widget, widget.text());
+        SetSpokenName(widget, widget.text());
         widget.setChecked(control.Value());
         View::Update();
     }
@@ -168,7 +168,7 @@ public:
     explicit CommandButtonView(const ViewParts& parts) : ViewOf(parts) {
         widget.setAutoDefault(true);  // Enter presses the button that has the focus
         if (Row().look == Look::OpenPicture) {
-            ShowPicture();
+            ShowIcon();
         }
         connect(&widget, &QPushButton::clicked, this,
                 [this] { OnUserAction([this] { control.Press(); }); });
@@ -186,7 +186,7 @@ public:
     }
 
 private:
-    void ShowPicture() {
+    void ShowIcon() {
         QIcon icon;
         for (const int size : {16, 20, 24, 32}) {
             icon.addFile(QString(":/window/open-%1.xpm").arg(size), {size, size});

@@ -1,11 +1,11 @@
-// The views by kind of control: one class for each kind, and none for a single control. Where
-// a control departs from the look of its kind, its row of the catalogue says so.
+// The views: one class for each kind of control, none for a single control. Where a control departs
+// from the look of its kind is in its row of the catalogue.
 #pragma once
 
 #include <memory>
 
 #include "window/View.h"
 
-/// Makes the view of a control with its widget. Null for a kind that is not on the screen.
-/// The control has to be of the kind that its row names.
+/// Makes the view of a control and its widget. Null for a kind that is not on the screen. Throws
+/// std::bad_cast if the control is not of the kind in its row.
 std::unique_ptr<View> NewView(const ViewParts& parts);

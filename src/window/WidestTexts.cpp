@@ -21,7 +21,7 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-// The longest number below the end of a range: one with as many digits as a file keeps.
+// A number just below the end of a range with as many digits as a file keeps.
 Single LongestBelow(Single end) {
     const int digits = static_cast<int>(std::floor(std::log10(end))) + 1;
     return end - static_cast<Single>(std::pow(10, digits - SignificantDigits));
@@ -36,7 +36,7 @@ Texts InRange(const RecordEdit& form, const FieldBox& row) {
     return texts;
 }
 
-// Of a number that any phase can be saved with, at the scale with the widest map.
+// The limits within which some phase can be saved, at the scale with the widest map.
 Texts WithinLimits(const RecordEdit& form, const FieldBox& row) {
     Texts texts;
     const Bounds limits = WidestBounds(row.field, ScaleCode::Large);

@@ -1,4 +1,4 @@
-// The texts for which the form must have room. How large they are on the screen is in Scale.
+// The texts that the form must have room for. Their size on the screen is in FormScale.
 #pragma once
 
 #include <QStringList>
@@ -7,7 +7,7 @@
 struct RecordEdit;
 class Control;
 
-/// For each control of the catalogue the texts that it shows at its start and later, or the widest
-/// of them: all entries of a list, the ends of a range, the limits of a number. Paths, of any
-/// length, are not among them.
+/// For each control of the catalogue, all texts that it can show or the widest of them: the
+/// caption, the entries of a list, the ends of a range, the limits of a number. Paths are left out,
+/// as they can have any length.
 std::unordered_map<const Control*, QStringList> TextsToFit(const RecordEdit& form);

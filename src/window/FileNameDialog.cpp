@@ -1,4 +1,4 @@
-#include "window/NamingDialog.h"
+#include "window/FileNameDialog.h"
 
 #include <unistd.h>
 
@@ -26,7 +26,7 @@
 
 namespace {
 
-// The toolkit's filters for "Records (*.rec)|*.rec;*.REC|": here "Records (*.rec *.REC)".
+// Turns "Records (*.rec)|*.rec;*.REC|" into the toolkit's "Records (*.rec *.REC)".
 QStringList NameFilters(std::string_view filter) {
     const QStringList parts = ToScreen(filter).split('|');
     QStringList filters;
@@ -37,7 +37,7 @@ QStringList NameFilters(std::string_view filter) {
     return filters;
 }
 
-// Shows a name in one line, also while it is edited.
+// Shows names with stand-ins, also while they are edited.
 class NameDelegate : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -62,9 +62,9 @@ public:
     }
 };
 
-// Keeps the names of folders in such a model of the toolkit's, which does not read them back, and
-// their tips in one line.
-void KeepWhole(QAbstractItemModel& folders) {
+// Gives the names and tips of folders in a model of the toolkit's their stand-ins. The toolkit
+// never reads these names back.
+void ShowStandIns(QAbstractItemModel& folders) {
     const auto keep = [&folders](const QModelIndex& index, int role) {
         const QString text = index.data(role).toString();
         if (const QString shown = WithStandIns(text); shown != text) {
@@ -80,14 +80,15 @@ void KeepWhole(QAbstractItemModel& folders) {
                      });
 }
 
-// The toolkit makes its widgets when it learns that the desktop's own dialog is not wanted: some of
-// those look for a file to be replaced before they add the extension, and replace one unasked.
+// Some desktops' own dialogs check for an existing file before they add the extension, and so
+// replace a file without asking. Without them, the toolkit creates its own widgets here.
 QLineEdit& NameBox(QFileDialog& dialog) {
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     return *dialog.findChild<QLineEdit*>("fileNameEdit");
 }
 
-// Without dots, repeated slashes and links on the way that a name would be compared by in vain.
+// Removes `.`, `..` and repeated slashes, so that equal paths compare equal. If a `..` after a
+// symbolic link would then lead to another folder, the folder's real path is used instead.
 QString Tidied(const QString& path) {
     const qsizetype nameStart = path.lastIndexOf('/') + 1;
     const QString folder = path.left(nameStart);
@@ -98,13 +99,13 @@ QString Tidied(const QString& path) {
     return (best.endsWith('/') ? best : best + '/') + path.mid(nameStart);
 }
 
-// An ending that begins with a figure is rather a part of the name, as in "eruption v1.2".
+// An ending that begins with a digit belongs to the name, as in "eruption v1.2".
 bool IsExtension(const QString& ending) {
     return !ending.isEmpty() && ending.front().isLetter() &&
            !QMimeDatabase().suffixForFileName("name." + ending).isEmpty();
 }
 
-bool Fits(const QString& path) {
+bool NameFits(const QString& path) {
     const QFileInfo file(path);
     const long longest = pathconf(QFile::encodeName(file.path()).constData(), _PC_NAME_MAX);
     return longest < 0 || QFile::encodeName(file.fileName()).size() <= longest;
@@ -112,7 +113,7 @@ bool Fits(const QString& path) {
 
 }  // namespace
 
-NamingDialog::NamingDialog(QWidget& parent, const CommonDialog& dialog, AcceptMode mode)
+FileNameDialog::FileNameDialog(QWidget& parent, const CommonDialog& dialog, AcceptMode mode)
     : QFileDialog(&parent),
       box(NameBox(*this)),
       extension(ToScreen(dialog.DefaultExt)),
@@ -122,25 +123,25 @@ NamingDialog::NamingDialog(QWidget& parent, const CommonDialog& dialog, AcceptMo
     setNameFilters(filters);
     selectNameFilter(filters.value(dialog.FilterIndex - 1));
     setAcceptMode(mode);
-    setFileMode(AnyFile);  // whether the file must exist is looked at when it is taken
+    setFileMode(AnyFile);  // ConfirmChoice checks whether the file exists
     // The toolkit's own size leaves hardly any room for the names.
     const QSize roomy(140 * fontMetrics().averageCharWidth(), 30 * fontMetrics().height());
     resize(roomy.boundedTo(screen()->availableSize()));
-    ShowNamesWhole();
+    ShowNamesWithStandIns();
     FollowSelection();
     for (auto* const button : findChildren<QPushButton*>()) {
         button->installEventFilter(this);
     }
 }
 
-void NamingDialog::ShowNamesWhole() {
+void FileNameDialog::ShowNamesWithStandIns() {
     QList<QAbstractItemView*> views{box.completer()->popup(), findChild<QListView*>("listView")};
     views += findChild<QTreeView*>();
     for (QAbstractItemView* const view : views) {
         view->setItemDelegate(new NameDelegate(view));
     }
-    KeepWhole(*findChild<QComboBox*>("lookInCombo")->model());
-    KeepWhole(*findChild<QListView*>("sidebar")->model());
+    ShowStandIns(*findChild<QComboBox*>("lookInCombo")->model());
+    ShowStandIns(*findChild<QListView*>("sidebar")->model());
     connect(&box, &QLineEdit::textChanged, this, [this](const QString& text) {
         if (const QString shown = WithStandIns(text); shown != text) {
             const int place = box.cursorPosition();
@@ -149,11 +150,11 @@ void NamingDialog::ShowNamesWhole() {
         }
     });
     connect(findChild<QFileSystemModel*>(), &QFileSystemModel::directoryLoaded, this,
-            &NamingDialog::FitColumns, Qt::QueuedConnection);
+            &FileNameDialog::FitColumns, Qt::QueuedConnection);
     findChild<QTreeView*>()->viewport()->installEventFilter(this);
 }
 
-void NamingDialog::FollowSelection() {
+void FileNameDialog::FollowSelection() {
     connect(&box, &QLineEdit::textEdited, this, [this] { selecting = false; });
     connect(this, &QFileDialog::currentChanged, this, [this] { selecting = true; });
     for (const auto* const view : findChildren<QAbstractItemView*>()) {
@@ -161,8 +162,8 @@ void NamingDialog::FollowSelection() {
     }
 }
 
-// All columns but that of the names take what they need, and the names the rest.
-void NamingDialog::FitColumns() {
+// The column of names gets the width that the others do not need, but at least a third.
+void FileNameDialog::FitColumns() {
     auto& tree = *findChild<QTreeView*>();
     int rest = tree.viewport()->width();
     for (int column = 1; column < tree.model()->columnCount(); ++column) {
@@ -172,36 +173,36 @@ void NamingDialog::FitColumns() {
     tree.setColumnWidth(0, std::max(rest, tree.viewport()->width() / 3));
 }
 
-void NamingDialog::Offer(const QString& folder, const QString& name) {
+void FileNameDialog::Offer(const QString& folder, const QString& name) {
     setDirectory(folder);
-    offeredIn = directory().path();
+    offeredFolder = directory().path();
     offered = name;
     offeredPath = (folder.endsWith('/') ? folder : folder + '/') + name;
     box.setText(name);
     box.selectAll();
 }
 
-void NamingDialog::accept() {
+void FileNameDialog::accept() {
     const QString name = WithoutStandIns(box.text());
-    if (Enters(SelectedFolder(), box.text()) || name.isEmpty()) {
+    if (EnterFolder(SelectedFolder(), box.text()) || name.isEmpty()) {
         return;
     }
-    const bool unchanged = name == offered && directory().path() == offeredIn;
+    const bool unchanged = name == offered && directory().path() == offeredFolder;
     const QString path = unchanged ? offeredPath : PathOfName(name);
-    const QString left = acceptMode() == AcceptSave ? offered : QString();
-    if (Enters(path, left)) {
+    const QString nameLeft = acceptMode() == AcceptSave ? offered : QString();
+    if (EnterFolder(path, nameLeft)) {
         return;
     }
-    const bool asItIs = (unchanged || acceptMode() == AcceptOpen) && QFileInfo::exists(path);
-    const QString file = asItIs ? path : WithExtension(path);
-    if (!Enters(file, left) && MayTake(file)) {
+    const bool keepAsIs = (unchanged || acceptMode() == AcceptOpen) && QFileInfo::exists(path);
+    const QString file = keepAsIs ? path : WithExtension(path);
+    if (!EnterFolder(file, nameLeft) && ConfirmChoice(file)) {
         chosen = file;
         done(Accepted);
     }
 }
 
-// The toolkit's own reading of the name box can find nothing to open or save in it.
-bool NamingDialog::eventFilter(QObject* watched, QEvent* event) {
+// The toolkit disables its buttons for names that it cannot read as a file name; we can.
+bool FileNameDialog::eventFilter(QObject* watched, QEvent* event) {
     auto* const button = qobject_cast<QPushButton*>(watched);
     if (button != nullptr && event->type() == QEvent::EnabledChange && !box.text().isEmpty()) {
         button->setEnabled(true);
@@ -211,7 +212,7 @@ bool NamingDialog::eventFilter(QObject* watched, QEvent* event) {
     return QFileDialog::eventFilter(watched, event);
 }
 
-QString NamingDialog::PathOfName(const QString& name) const {
+QString FileNameDialog::PathOfName(const QString& name) const {
     if (name.startsWith('/')) {
         return Tidied(name);
     }
@@ -221,17 +222,17 @@ QString NamingDialog::PathOfName(const QString& name) const {
                                                              : here + name);
 }
 
-// A name that has one, or would become too long with it, stays as it is.
-QString NamingDialog::WithExtension(const QString& path) const {
+// Adds the extension unless the name has one or would become too long.
+QString FileNameDialog::WithExtension(const QString& path) const {
     const QString name = path.mid(path.lastIndexOf('/') + 1);
     const QString ending = name.contains('.') ? name.section('.', -1).trimmed() : QString();
     const bool hasOne = ending.compare(extension, Qt::CaseInsensitive) == 0 || IsExtension(ending);
     const QString extended = path + '.' + extension;
-    return hasOne || !Fits(extended) ? path : extended;
+    return hasOne || !NameFits(extended) ? path : extended;
 }
 
-// The folder that the user has just selected in the list, to enter it by the button.
-QString NamingDialog::SelectedFolder() const {
+// The folder that the user has selected in the list and will enter by the button; empty if none.
+QString FileNameDialog::SelectedFolder() const {
     if (!selecting || box.hasFocus()) {
         return {};
     }
@@ -240,7 +241,7 @@ QString NamingDialog::SelectedFolder() const {
                           : rows.front().data(QFileSystemModel::FilePathRole).toString();
 }
 
-bool NamingDialog::Enters(const QString& path, const QString& nameThere) {
+bool FileNameDialog::EnterFolder(const QString& path, const QString& nameThere) {
     if (path.isEmpty() || !QFileInfo(path).isDir()) {
         return false;
     }
@@ -249,9 +250,9 @@ bool NamingDialog::Enters(const QString& path, const QString& nameThere) {
     return true;
 }
 
-bool NamingDialog::MayTake(const QString& path) {
+bool FileNameDialog::ConfirmChoice(const QString& path) {
     const QString name = NameInMessage(path.mid(path.lastIndexOf('/') + 1));
-    if (name.isEmpty() || path.contains(QChar::Null) || !Fits(path)) {
+    if (name.isEmpty() || path.contains(QChar::Null) || !NameFits(path)) {
         QMessageBox::warning(this, windowTitle(), tr("%1\nNo file can have this name.").arg(name));
         return false;
     }
