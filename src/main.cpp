@@ -43,9 +43,9 @@ int main(int argc, char** argv) {
     };
 
     Wire(*form);
-    window.setUpdatesEnabled(false);  // or the form would flash up before it is filled
+    window.setUpdatesEnabled(false);  // or the form would appear before it is filled
     Form_Load(*form);
     window.setUpdatesEnabled(true);
-    // The user can have closed the window already while the form was loading.
+    // The user may have closed the window while the form was loading.
     return window.isVisible() ? QApplication::exec() : 0;
 }

@@ -176,7 +176,7 @@ TEST_F(FormTest, NoTextAndNoPlaceHasChangedUnnoticed) {
             << row.width << ' ' << row.height << ' ' << row.tab << ' ' << int(row.kind) << ' '
             << int(row.look) << '\n';
     }
-    for (const auto& texts : {LabelsOf(), SpokenNames(), SpokenDescriptions()}) {
+    for (const auto& texts : {ControlLabels(), AccessibleNames(), AccessibleDescriptions()}) {
         for (const NamedText& text : texts) {
             EXPECT_NE(form.Find(text.control), nullptr) << text.control;
             all << text.control << '|' << text.text << '\n';

@@ -45,7 +45,7 @@ public:
         const Control* const displays[] = {&form.cmbPhase, &form.cmbType, &form.cmdAdd,
                                            &form.cmdDelete, &form.cmdReset};
         displayed =
-            control.OpenToUser() && (verb == "pick" || verb == "press") &&
+            control.AcceptsUserActions() && (verb == "pick" || verb == "press") &&
             std::find(std::begin(displays), std::end(displays), &control) != std::end(displays);
         Perform(control, verb, text);
         for (const Message& message : platform.messages) {

@@ -117,7 +117,7 @@ public:
                 }
             }
         }
-        if (!control.OpenToUser()) {
+        if (!control.AcceptsUserActions()) {
             noted.push_back({"refused"});
         }
         const std::size_t asked = platform.asked.size() + platform.answers.size();

@@ -143,7 +143,7 @@ inline std::size_t PositionOf(const ComboBox& list, const std::string& text) {
 
 /// Picks an entry of a list as the user does; the list must be enabled and visible.
 inline void Pick(ComboBox& list, const std::string& text) {
-    EXPECT_TRUE(list.OpenToUser()) << list.Name() << " is disabled or hidden";
+    EXPECT_TRUE(list.AcceptsUserActions()) << list.Name() << " is disabled or hidden";
     list.Pick(PositionOf(list, text));
 }
 

@@ -29,7 +29,7 @@ public:
     std::int64_t Line() const { return in.Line(); }
 
     /// After the last item: what ItemReader says of what follows it.
-    std::int64_t LineOfMore() { return in.LineOfMore(); }
+    std::int64_t LineOfTrailingText() { return in.LineOfTrailingText(); }
 
     /// Ends the last block that was read whole.
     void EndBlock(int block);

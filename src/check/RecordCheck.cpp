@@ -66,7 +66,7 @@ void RecordCheck::Run(std::streambuf& source, const FindingSink& sink) {
 void RecordCheck::End(NotingReader& reader, const FindingSink& sink) {
     Finding rest{.message = "what follows the last item is not read"};
     try {
-        rest.line = reader.LineOfMore();
+        rest.line = reader.LineOfTrailingText();
     } catch (const std::system_error& error) {
         rest = {.line = reader.Line(),
                 .message = "what follows the last item cannot be read: " + error.code().message()};

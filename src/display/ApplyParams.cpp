@@ -15,7 +15,7 @@ void Correct(PhaseRecord& phase, const Fault& fault) {
     }
 }
 
-// The message comes before the form moves.
+// The message appears before the form shows the phase at fault.
 void Report(RecordEdit& form, int phase, const Fault& fault) {
     form.ShowMessage(PhaseEntry(phase) + std::string(fault.message), MessageIcon::Information);
     form.cmbPhase.SetText(PhaseEntry(phase));
@@ -38,7 +38,7 @@ bool AllPass(RecordEdit& form) {
     return true;
 }
 
-// A reference that was removed stays removed.
+// Once NoFileText is applied it stays, even if the user has attached a file since.
 void Commit(RecordEdit& form) {
     if (form.StratFile != NoFileText) {
         form.StratFile = form.EditStratFile;

@@ -1,9 +1,9 @@
-// The gate between the working copy and the loaded copy. The limits themselves stand in Limits.
+// Judges the working copy and makes it the loaded copy. The limits are in Limits.
 #pragma once
 
 struct RecordEdit;
 
-/// Judges the phases from the first to the last. True: all passed, and the loaded copy now equals
-/// the working copy. False: the user has been told of the first fault, the form shows it, and the
-/// loaded copy is as it was; or a failure ended the run with a message.
+/// Judges the phases from the first to the last. True: all passed, and the working copy has been
+/// copied to the loaded copy. False: the first fault has been reported, the form shows it, and the
+/// loaded copy is unchanged; or a failure ended the run with a message.
 bool ApplyParams(RecordEdit& form);

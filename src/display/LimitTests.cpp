@@ -12,8 +12,8 @@ double MapPosition(Single location, double factor) {
     return factor * static_cast<double>(location);
 }
 
-// The last location at one end of the map. The Single next to the quotient can lie on either side;
-// with a negative scale the map runs from right to left.
+// The last location on the map at one end. The Single nearest to the quotient may be on the map or
+// off it; with a negative scale the map runs from right to left.
 Single LastOnMap(double end, bool (*isOff)(Single, double), double factor) {
     const bool upwards = (end == MapStart) == (factor > 0);
     const Single far = std::numeric_limits<Single>::max() * (upwards ? 1.0F : -1.0F);
@@ -24,7 +24,7 @@ Single LastOnMap(double end, bool (*isOff)(Single, double), double factor) {
     return last;
 }
 
-Bounds Anything(const Judged& /*judged*/) { return {}; }
+Bounds NoBounds(const Judged& /*judged*/) { return {}; }
 
 using P = PhaseRecord;
 
@@ -51,8 +51,8 @@ bool IsTooLong(const Judged& j, int flow) {
     return static_cast<double>(j.flows[flow]) > LongestFlow(j.phase, flow);
 }
 
-// With a flow length far out of range no duration passes: its ceiling is below its floor, or leaves
-// 16 bits.
+// With a flow length far out of range no duration passes: its ceiling is below its floor, or does
+// not fit in 16 bits.
 bool AnyDurationPasses(const Judged& j) {
     const auto [lowest, highest] = FlowLengthsThatFit(j.phase.eruptionType, j.badFlow->flow);
     return j.phase.flowLength >= lowest && j.phase.flowLength <= highest &&
@@ -95,9 +95,9 @@ Single PutOnMap(Single location, double factor) {
 
 constexpr Test LocationTooSmall{IsVentBeforeMap, &FieldOf(&P::ventLocation), OnMap};
 constexpr Test LocationTooLarge{IsVentAfterMap, &FieldOf(&P::ventLocation), OnMap};
-constexpr Test ScarpsEqual{AreScarpsEqual, &FieldOf(&P::scarpBase), Anything};
-constexpr Test NoDownSide{LacksSide, &FieldOf(&P::faultDownSide), Anything};
-constexpr Test NoCalderaStyle{LacksStyle, &FieldOf(&P::calderaStyle), Anything};
+constexpr Test ScarpsEqual{AreScarpsEqual, &FieldOf(&P::scarpBase), NoBounds};
+constexpr Test NoDownSide{LacksSide, &FieldOf(&P::faultDownSide), NoBounds};
+constexpr Test NoCalderaStyle{LacksStyle, &FieldOf(&P::calderaStyle), NoBounds};
 constexpr Test FlowTooShort{HasShortFlow, nullptr, LongEnough, nullptr, IsTooShort};
 constexpr Test FlowTooLong{HasLongFlow, nullptr, ShortEnough, nullptr, IsTooLong};
 

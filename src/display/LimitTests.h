@@ -1,6 +1,6 @@
-// How a phase can break a limit, one test for each way: when it fails, which field is at fault,
-// what would pass, and what the field becomes if it is corrected. Which type must keep which limit,
-// and in which order they are tested, is in Limits.
+// The tests of single limits: when each fails, which field is at fault, which values would pass,
+// and what the field is corrected to, if at all. Which tests apply to which type, and in which
+// order, is in Limits.
 #pragma once
 
 #include <optional>
@@ -11,11 +11,11 @@
 
 namespace LimitTests {
 
-// What the tests look at, and the flow that one of them has found.
+// The input of the tests, and the bad flow that one of them has found.
 struct Judged {
     const PhaseRecord& phase;
     const FlowRow& flows;
-    double factor;  // from a location to its place on the map
+    double factor;  // MapFactor of the record
     std::optional<BadFlow> badFlow = std::nullopt;
 };
 
@@ -23,8 +23,8 @@ struct Test {
     bool (*fails)(Judged& judged);
     const PhaseField* field;  // null: the duration of a flow
     Bounds (*passing)(const Judged& judged);
-    std::optional<Single> (*correction)(const Judged& judged) = nullptr;
-    bool (*failsFor)(const Judged& judged, int flow) = nullptr;  // one flow by itself
+    std::optional<Single> (*correction)(const Judged& judged) = nullptr;  // null: none
+    bool (*failsFor)(const Judged& judged, int flow) = nullptr;           // null unless for flows
 };
 
 template <auto Field, int Numerator, int Denominator>
@@ -46,11 +46,11 @@ struct Ceiling {
 template <auto Field, int Most>
 constexpr Test Above{Ceiling<Field, Most>::Fails, &FieldOf(Field), Ceiling<Field, Most>::Passing};
 
-// `factor` is the MapFactor of the record.
+// Whether a location is off the map at its start or its end, with the MapFactor of the record.
 bool IsBeforeMap(Single location, double factor);
 bool IsAfterMap(Single location, double factor);
 Bounds OnMap(const Judged& judged);
-/// The location on the end of the map that this one has left, or itself.
+// The location at the end of the map beyond which this one is, or this one if it is on the map.
 Single PutOnMap(Single location, double factor);
 
 template <auto Scarp>
@@ -71,7 +71,7 @@ extern const Test LocationTooLarge;
 extern const Test ScarpsEqual;
 extern const Test NoDownSide;
 extern const Test NoCalderaStyle;
-// The first looks for a flow out of its limits, and the two say on which side: they go together.
+// The first finds the first bad flow, and the second relies on it: test both, in this order.
 extern const Test FlowTooShort;
 extern const Test FlowTooLong;
 

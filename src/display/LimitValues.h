@@ -1,5 +1,4 @@
-// What limits are made of: the map, and the range of values that pass. Which field has which limit
-// is in Limits.
+// The map, and the range of values that pass a limit. Which field has which limit is in Limits.
 #pragma once
 
 #include <optional>
@@ -10,10 +9,10 @@
 constexpr double MapStart = 50;
 constexpr double MapEnd = 1230;
 
-/// What a location is multiplied by for its map position. The scale is not 0.
+/// The factor from a location to its map position. The scale must not be 0.
 constexpr double MapFactor(Integer recordScale) { return 1000.0 / recordScale; }
 
-/// The values that pass: from `lowest` to `highest`, both included, where there is a limit.
+/// The values that pass: `lowest` to `highest`, both included; an empty one is no limit.
 struct Bounds {
     std::optional<Single> lowest;
     std::optional<Single> highest;

@@ -13,8 +13,8 @@ namespace {
 
 using namespace LimitTests;
 
-// The eruption types that a check is made for, as one bit each; the first is for codes that are no
-// type, which get the checks for all types and no others.
+// The eruption types that a check applies to, one bit each; the lowest bit is for codes that are
+// not types.
 using Types = unsigned;
 
 constexpr Types BitOf(Integer code) { return IsEruptionType(code) ? 2U << unsigned(code) : 1U; }
@@ -37,7 +37,7 @@ constexpr Types Collapse = Of({EruptionType::Collapse});
 constexpr Types Fumarolic = Of({EruptionType::Fumarolic});
 constexpr Types Located = ~(Tectonic | Collapse);
 
-// Whether the first fault is that of this row, or one of a later row that fails too.
+// Stop at this failure, or go on; a later failure replaces this one.
 enum class Then { Stop, GoOn };
 
 struct Check {
@@ -115,10 +115,10 @@ consteval bool EachTypeHasRows() {
     }
     return true;
 }
-static_assert(EachTypeHasRows(), "each eruption type has checks of its own");
+static_assert(EachTypeHasRows(), "each eruption type has checks that do not apply to all");
 static_assert(LastEruptionType + 1 < std::numeric_limits<Types>::digits, "a bit for each type");
 
-Judged Judging(const PhaseRecord& phase, const FlowRow& flows, Integer recordScale) {
+Judged MakeJudged(const PhaseRecord& phase, const FlowRow& flows, Integer recordScale) {
     if (recordScale == 0) {
         throw std::domain_error("Division by zero");
     }
@@ -133,8 +133,8 @@ Fault FaultOf(const Check& check, const Judged& judged) {
 
 bool IsForFlows(const Check& check) { return check.test.field == nullptr; }
 
-// One flow by itself, against each row for flows; the row of the floor comes first. False if the
-// ceiling leaves 16 bits.
+// Judges one flow by each row for flows; the row of the floor comes first. False if the ceiling
+// does not fit in 16 bits.
 bool JudgeFlow(Judged judged, int flow, std::vector<Fault>& faults) {
     try {
         for (const Check& check : Checks) {
@@ -168,7 +168,7 @@ void JudgeFlows(const Judged& judged, std::vector<Fault>& faults) {
 
 std::optional<Fault> FirstFault(const PhaseRecord& phase, const FlowRow& flows,
                                 Integer recordScale) {
-    Judged judged = Judging(phase, flows, recordScale);
+    Judged judged = MakeJudged(phase, flows, recordScale);
     std::optional<Fault> fault;
     for (const Check& check : Checks) {
         if (check.IsFor(phase) && check.test.fails(judged)) {
@@ -182,7 +182,7 @@ std::optional<Fault> FirstFault(const PhaseRecord& phase, const FlowRow& flows,
 }
 
 std::vector<Fault> AllFaults(const PhaseRecord& phase, const FlowRow& flows, Integer recordScale) {
-    Judged judged = Judging(phase, flows, recordScale);
+    Judged judged = MakeJudged(phase, flows, recordScale);
     std::vector<Fault> faults;
     bool flowsJudged = false;
     for (const Check& check : Checks) {
@@ -203,7 +203,7 @@ std::vector<Fault> AllFaults(const PhaseRecord& phase, const FlowRow& flows, Int
 Bounds WidestBounds(const PhaseField& field, Integer recordScale) {
     const PhaseRecord phase;
     const FlowRow flows;
-    const Judged judged = Judging(phase, flows, recordScale);
+    const Judged judged = MakeJudged(phase, flows, recordScale);
     Bounds widest;
     for (const Check& check : Checks) {
         if (check.test.field == &field) {

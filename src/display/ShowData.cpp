@@ -9,8 +9,8 @@
 
 namespace {
 
-// The phase to be shown is the current one already: unguarded, a check box that is cleared here
-// would store the 0 in it.
+// CurPhase is already the phase to show: without FormFilling, clearing a check box would store a 0
+// in it.
 void ResetOptions(RecordEdit& form) {
     form.FormFilling = true;
     form.chkBurst.SetValue(0);
@@ -39,13 +39,13 @@ void ShowTectonics(RecordEdit& form, const PhaseRecord& phase) {
 }
 
 void ShowFlows(RecordEdit& form, const PhaseRecord& phase) {
-    for (int j = 1; j <= FlowsWithinTable(phase); ++j) {
+    for (int j = 1; j <= CappedFlowCount(phase); ++j) {
         form.cmbFlow.AddItem(FlowEntry(j));
     }
     ShowFlow(form, 1);
 }
 
-// A flag of 1 runs the box's own handler, which enables Save.
+// A flag of 1 raises Click, whose handler enables Save.
 void ShowOptions(RecordEdit& form, const PhaseRecord& phase) {
     const auto show = [&phase](CheckBox& box, const PhaseField& flag) {
         if (Offers(phase, flag)) {
@@ -69,9 +69,9 @@ void ShowType(RecordEdit& form, Integer pha) {
         ShowNoType(form);
     }
     if (pha == 0 && phase.eruptionType == EruptionType::Tectonic) {
-        return;  // an empty record's element 0 is no erosion
+        return;  // element 0 of an empty record is not an erosion
     }
-    // A code of no type leaves the name and the type of the phase shown before.
+    // A code that is not a type leaves the name and type of the phase shown before.
     if (const TypeEntry* entry = EntryOf(phase)) {
         form.cmbType.SetText(entry->name);
         form.CurType = entry->eruptionType;
@@ -79,8 +79,6 @@ void ShowType(RecordEdit& form, Integer pha) {
     }
 }
 
-// The box of a field that comes later may change what an earlier one stored, so each field is read
-// when its box is filled.
 void FillBoxes(RecordEdit& form, Integer pha) {
     for (const FieldBox& row : FieldBoxes) {
         const Single value = ValueOf(form.EditPhases[pha], row.field);

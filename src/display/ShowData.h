@@ -1,4 +1,4 @@
-// Bringing a phase of the working copy onto the form.
+// Shows a phase of the working copy on the form. Which controls are enabled is in Activation.
 #pragma once
 
 #include "record/PhaseRecord.h"
@@ -6,12 +6,13 @@
 struct RecordEdit;
 
 /// Fills every control from phase `pha`, which must be `CurPhase`; 0 for no phase. The boxes store
-/// what they are given, so a phase on show holds what the form shows. A failure ends the display
-/// where it is, with a message.
+/// what they are given, so the phase then has the numbers as shown. A failure is reported and
+/// leaves the remaining controls as they were.
 void ShowData(RecordEdit& form, Integer pha);
 
-/// Puts flow 1 to 100 of the phase on show: its name in the list, its duration in the box.
+/// Shows flow 1 to 100 of the current phase: its name in the list, its duration in the box. Throws
+/// std::out_of_range for a flow above 100.
 void ShowFlow(RecordEdit& form, int flow);
 
-/// Shows the phase that the phase list names; the same phase again if it names none.
+/// Shows the phase named in the phase box, or the current phase again if it names none.
 void cmbPhase_Click(RecordEdit& form);

@@ -99,7 +99,7 @@ Contents ContentsOf(const EditorState& record) {
         contents.flux |= Uses(phase, FieldOf(&P::massFlux));
         contents.bursts |= Uses(phase, FieldOf(&P::burstCount));
         if (HasFlows(phase)) {
-            contents.flows = std::max(contents.flows, FlowsWithinTable(phase));
+            contents.flows = std::max(contents.flows, CappedFlowCount(phase));
         }
     }
     return contents;

@@ -197,7 +197,7 @@ double BarHeight(const Row& row, int flow) {
 }
 
 void AddFlows(const Row& row) {
-    const int count = FlowsWithinTable(row.phase);
+    const int count = CappedFlowCount(row.phase);
     if (count < 1) {
         return;
     }

@@ -4,14 +4,14 @@
 
 namespace {
 
-// The number between `front` and `back` if the whole text is an entry of 1 to `last`, else 0.
-int FindNumber(std::string_view text, std::string_view front, std::string_view back, int last) {
-    if (text.size() <= front.size() + back.size() || !text.starts_with(front) ||
-        !text.ends_with(back)) {
+// The number between `prefix` and `suffix` if the text is an entry of 1 to `last`, else 0.
+int FindNumber(std::string_view text, std::string_view prefix, std::string_view suffix, int last) {
+    if (text.size() <= prefix.size() + suffix.size() || !text.starts_with(prefix) ||
+        !text.ends_with(suffix)) {
         return 0;
     }
-    text.remove_prefix(front.size());
-    text.remove_suffix(back.size());
+    text.remove_prefix(prefix.size());
+    text.remove_suffix(suffix.size());
     int number = 0;
     const char* const end = text.data() + text.size();
     const auto [stop, error] = std::from_chars(text.data(), end, number);

@@ -1,5 +1,5 @@
-// The texts that name a phase or a flow in a list: "Phase n" and "Flow n Duration", built and
-// found again. Numbers stand in plain decimal digits, counted from 1.
+// The entries of the lists of phases and flows, "Phase n" and "Flow n Duration": makes and
+// recognises them. n counts from 1. Filling the lists is up to their handlers.
 #pragma once
 
 #include <string>
@@ -8,11 +8,10 @@
 std::string PhaseEntry(int phase);
 std::string FlowEntry(int flow);
 
-/// What stands in the box of the list of phases while there is none.
+/// The text of the phase box while there are no phases.
 constexpr std::string_view NoPhaseText = "Add Phase";
 
-/// The phase that a text names, 1 to `last`; 0 if the text is not, letter for letter, one of the
-/// entries.
+/// The phase that a text names, 1 to `last`; 0 if the text is not exactly one of the entries.
 int FindPhase(std::string_view text, int last);
 
 /// The flow that a text names, 1 to `last`; 0 if it names none of them.

@@ -10,7 +10,7 @@
 
 namespace {
 
-// Only the boxes with a floor can hold a number beyond 16 bits, and those replace it first.
+// The box of an Integer has already replaced a number that does not fit in 16 bits.
 void StoreNumber(RecordEdit& form, const FieldBox& row) {
     const Single value = form.NumberIn(form.*row.box);
     PhaseRecord& phase = form.CurrentPhase();
@@ -21,16 +21,16 @@ void StoreNumber(RecordEdit& form, const FieldBox& row) {
     }
 }
 
-// Brings the text into the range, in form; the number it then stands for.
-Single HoldInRange(RecordEdit& form, const FieldBox& row) {
+// Clamps the number in the box to its range, rewrites the text, and returns the clamped number.
+Single ClampToRange(RecordEdit& form, const FieldBox& row) {
     TextBox& box = form.*row.box;
     const Single value = std::clamp(form.NumberIn(box), row.field.range.low, row.field.range.high);
     box.SetText(form.TextOf(value, row.rewritten));
     return value;
 }
 
-// Brings a number above zero, and within 16 bits.
-void LiftAboveZero(RecordEdit& form, TextBox& box) {
+// Replaces a number at or below 0 by 1, and one that does not fit in 16 bits by the largest.
+void KeepAboveZero(RecordEdit& form, TextBox& box) {
     if (form.NumberIn(box) <= 0) {
         box.SetText("1");
     }
@@ -39,10 +39,10 @@ void LiftAboveZero(RecordEdit& form, TextBox& box) {
     }
 }
 
-// The list of flows anew, with a duration for each flow that has none, and flow 1 on show.
+// Fills the list of flows again, draws a duration for each flow without one, and shows flow 1.
 void BuildFlows(RecordEdit& form) {
     form.cmbFlow.Clear();
-    const int count = FlowsWithinTable(form.CurrentPhase());
+    const int count = CappedFlowCount(form.CurrentPhase());
     const bool hawaiian = form.CurType == EruptionType::Hawaiian;
     for (int i = 1; i <= count; ++i) {
         form.cmbFlow.AddItem(FlowEntry(i));
@@ -54,7 +54,7 @@ void BuildFlows(RecordEdit& form) {
     ShowFlow(form, 1);
 }
 
-// Which strengths of an eruption leave a caldera, and what it is called then.
+// The strengths at which the caldera box is enabled, with its caption.
 struct CalderaRow {
     Integer eruptionType;
     Single weakest;
@@ -78,8 +78,8 @@ constexpr CalderaRow Calderas[] = {
 void Field_Change(RecordEdit& form, const FieldBox& row) {
     switch (row.field.range.rule) {
         case FieldRange::AnyNumber: break;
-        case FieldRange::Between: HoldInRange(form, row); break;
-        case FieldRange::AboveZero: LiftAboveZero(form, form.*row.box); break;
+        case FieldRange::Between: ClampToRange(form, row); break;
+        case FieldRange::AboveZero: KeepAboveZero(form, form.*row.box); break;
     }
     StoreNumber(form, row);
 }
@@ -101,7 +101,7 @@ void txtStr_Change(RecordEdit& form) {
 void txtDip_Change(RecordEdit& form) {
     const FieldBox& row = BoxRow(&RecordEdit::txtDip);
     // The number as typed decides, even if the nested run saw it rounded.
-    form.cmbDown.SetEnabled(HoldInRange(form, row) == 0);
+    form.cmbDown.SetEnabled(ClampToRange(form, row) == 0);
     StoreNumber(form, row);
 }
 
@@ -113,7 +113,7 @@ void txtBurst_Change(RecordEdit& form) {
 }
 
 void txtLava_Change(RecordEdit& form) {
-    const int flow = FindFlow(form.cmbFlow.Text(), FlowsWithinTable(form.CurrentPhase()));
+    const int flow = FindFlow(form.cmbFlow.Text(), CappedFlowCount(form.CurrentPhase()));
     if (flow != 0) {
         form.CurrentFlows()[flow] = form.NumberIn(form.txtLava);
     }

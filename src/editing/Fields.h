@@ -1,6 +1,6 @@
-// The parameter boxes of a phase as one table, in the order in which a display fills them: which
-// field a box edits, and how its number is written. The box of a flow's duration is not here: it
-// edits the flow that the list of flows names.
+// The parameter boxes of a phase as one table, in the order in which ShowData fills them: which
+// field a box edits, and how its number is written. txtLava is not in the table: it edits the flow
+// that is named in the list of flows.
 #pragma once
 
 #include <array>
@@ -13,11 +13,11 @@ struct FieldBox {
     BoxMember box;
     const PhaseField& field;
     Format onShow;
-    Format rewritten;  // counts for a field that is held in a range only
+    Format rewritten;  // used only if the field is clamped to a range
 };
 
 /// All 20 fields that have a box of their own.
 extern const std::array<FieldBox, 20> FieldBoxes;
 
-/// The row of a box; the box must be in the table.
+/// The row of a box, which must be in the table.
 const FieldBox& BoxRow(BoxMember box);

@@ -11,9 +11,9 @@ namespace {
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 bool IsSign(char c) { return c == '+' || c == '-'; }
 
-// A number that no floating type holds is too large or too small; its first digit that counts
-// stands above the decimal point, exponent included, only in the first case.
-bool IsBeyondOne(std::string_view digits) {
+// Whether a number outside the range of its type is too large and not too small: its first digit
+// other than 0 is before the decimal point once the exponent is applied.
+bool IsAtLeastOne(std::string_view digits) {
     const std::size_t exponentAt = std::min(digits.find_first_of("eE"), digits.size());
     const std::string_view mantissa = digits.substr(0, exponentAt);
     long exponent = 0;
@@ -37,7 +37,7 @@ Conversion Convert(std::string_view text, Number& value) {
     if (!text.empty() && IsSign(text.front())) {
         text.remove_prefix(1);
     }
-    // Names such as "inf" and a second sign are no numbers here, though the library takes them.
+    // The library also accepts a second minus and names such as "inf", which are not numbers here.
     if (text.empty() || !(IsDigit(text.front()) || text.front() == '.')) {
         return Conversion::NoNumber;
     }
@@ -48,7 +48,7 @@ Conversion Convert(std::string_view text, Number& value) {
         return Conversion::NoNumber;
     }
     if (error == std::errc::result_out_of_range) {
-        if (IsBeyondOne(text)) {
+        if (IsAtLeastOne(text)) {
             return Conversion::TooLarge;
         }
         magnitude = 0;
@@ -59,11 +59,11 @@ Conversion Convert(std::string_view text, Number& value) {
 
 // A number found at the start of a text, in the form that FromDecimal reads.
 struct Decimal {
-    std::string mantissa;  // sign, digits, at most one period, one digit at least; or empty
+    std::string mantissa;  // sign, digits, at most one period, at least one digit; or empty
     std::string exponent;  // sign and digits, without the letter; or empty
 };
 
-// Walks along a text; every step takes what it is asked for or stays where it is.
+// Reads a text from the front; each step consumes what it looks for, or nothing.
 class Scanner {
 public:
     explicit Scanner(std::string_view text) : rest(text) {}
@@ -130,9 +130,9 @@ Decimal FindDecimal(std::string_view text, const Separators& separators) {
     return found;
 }
 
-// The Single of a decimal text; nothing if it is too large for one.
+// The Single of a decimal text; nothing if it is too large or not a number.
 std::optional<Single> ToSingle(std::string_view decimal) {
-    // From here on a double rounds to no finite Single: half a step above the largest.
+    // Half a step above the largest Single: a double from here on rounds to no finite one.
     constexpr double limit = 0x1.ffffffp127;
     double value = 0;
     if (FromDecimal(decimal, value) != Conversion::Number || std::abs(value) >= limit) {
@@ -141,15 +141,15 @@ std::optional<Single> ToSingle(std::string_view decimal) {
     return static_cast<Single>(value);
 }
 
-// The longest part of `text`, `shortest` characters at least, that fits behind `before`. With
-// every character the number grows or stays, so the search goes by halves.
-std::optional<Single> LongestThatFits(const std::string& before, std::string_view text,
+// The value of `prefix` and as much of `text`, at least `shortest` characters, as fits in a Single.
+// A character more never makes the number smaller, so a binary search finds the end.
+std::optional<Single> LongestThatFits(const std::string& prefix, std::string_view text,
                                       std::size_t shortest) {
     std::optional<Single> best;
     std::size_t longest = text.size();
     while (shortest <= longest) {
         const std::size_t length = shortest + (longest - shortest) / 2;
-        if (const auto value = ToSingle(before + std::string(text.substr(0, length)))) {
+        if (const auto value = ToSingle(prefix + std::string(text.substr(0, length)))) {
             best = value;
             shortest = length + 1;
         } else {
@@ -160,14 +160,14 @@ std::optional<Single> LongestThatFits(const std::string& before, std::string_vie
 }
 
 Single FitToSingle(const Decimal& number) {
-    const std::string front = number.mantissa + 'e';
+    const std::string prefix = number.mantissa + 'e';
     if (!number.exponent.empty()) {
-        if (const auto whole = ToSingle(front + number.exponent)) {
+        if (const auto whole = ToSingle(prefix + number.exponent)) {
             return *whole;
         }
         if (number.exponent.front() != '-') {
             const std::size_t sign = IsSign(number.exponent.front()) ? 1 : 0;
-            if (const auto part = LongestThatFits(front, number.exponent, sign + 1)) {
+            if (const auto part = LongestThatFits(prefix, number.exponent, sign + 1)) {
                 return *part;
             }
         }

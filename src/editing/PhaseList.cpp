@@ -13,7 +13,7 @@ Integer NamedPhase(const RecordEdit& form) {
     return named != 0 ? static_cast<Integer>(named) : form.CurPhase;
 }
 
-// Everything but the mapping fields, which keep what the element held.
+// Sets all fields but the mapping fields, which keep the values of the element.
 void SetStartingValues(PhaseRecord& phase) {
     PhaseRecord fresh;
     fresh.eruptionType = EruptionType::None;
@@ -29,7 +29,7 @@ void SetStartingValues(PhaseRecord& phase) {
     phase = fresh;
 }
 
-// The list grows and shrinks at its end only: entry k reads "Phase k" whichever phase it names.
+// The list grows and shrinks only at its end, since entry k is always "Phase k".
 void RemoveFromList(RecordEdit& form) {
     --form.EditPhaseCount;
     form.cmbPhase.RemoveItem(form.cmbPhase.Entries().size() - 1);
@@ -43,7 +43,7 @@ void RemoveFromList(RecordEdit& form) {
     }
 }
 
-// A flow row moves as far as it counts; a count above the table is a failure here.
+// Copies only the flows in use; a count above 100 is a failure here.
 void CloseGap(RecordEdit& form) {
     if (form.CurPhase > form.EditPhaseCount) {
         form.CurPhase = form.EditPhaseCount;
@@ -65,7 +65,7 @@ void OpenGap(RecordEdit& form) {
         const PhaseRecord& moved = form.EditPhases[i - 1];
         form.EditPhases[i] = moved;
         if (HasFlows(moved)) {
-            CopyFlows(form.EditFlows[i - 1], form.EditFlows[i], FlowsWithinTable(moved));
+            CopyFlows(form.EditFlows[i - 1], form.EditFlows[i], CappedFlowCount(moved));
         }
     }
 }

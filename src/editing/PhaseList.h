@@ -1,13 +1,13 @@
-// The list of phases: adding and deleting. Both act on the phase that the phase box names, which
-// is the one on show unless the user has typed the name of another.
+// Adds and deletes phases. Both act on the phase named in the phase box, which is the current one
+// unless the user has typed the name of another. Choosing a phase is in ShowData.
 #pragma once
 
 struct RecordEdit;
 
-/// Puts a new phase behind the named one and shows it. Refused, with a message and before anything
-/// changes, where the record has no room for it.
+/// Inserts a new phase after the named one and shows it. If the record is full, shows a message and
+/// changes nothing.
 void cmdAdd_Click(RecordEdit& form);
 
-/// Removes the named phase and shows the one that takes its number. A failure ends it where it is,
-/// with a message.
+/// Removes the named phase and shows the one that takes its number, or the new last one. A failure
+/// is reported and leaves the remaining steps undone.
 void cmdDelete_Click(RecordEdit& form);

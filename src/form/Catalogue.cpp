@@ -27,7 +27,7 @@ constexpr std::array<CatalogueRow, 74> Rows{{
     {"labPhases",   ControlKind::Label,         "Frame1",  "",                       1560,  1080,  1695,   255,  35, Look::OutputField},
     {"cmdChange",   ControlKind::CommandButton, "Frame1",  "Stratigraphic File",     3360,  1080,  1455,   255,  38},
     {"txtTopFile",  ControlKind::TextBox,       "Frame1",  "",                       1560,   720,  3255,   285,  44, Look::AnyText},
-    {"cmdOpen",     ControlKind::CommandButton, "Frame1",  "",                        100,   280,   375,   375,  45, Look::OpenPicture},
+    {"cmdOpen",     ControlKind::CommandButton, "Frame1",  "",                        100,   280,   375,   375,  45, Look::OpenIcon},
     {"labScale",    ControlKind::Label,         "Frame1",  "Scale:",                  840,  1380,   615,   255,  47},
     {"optLarge",    ControlKind::OptionButton,  "Frame1",  "Large",                  1560,  1380,   735,   255,  48},
     {"optNormal",   ControlKind::OptionButton,  "Frame1",  "Normal",                 2280,  1380,   855,   255,  49},
@@ -63,7 +63,7 @@ constexpr std::array<CatalogueRow, 74> Rows{{
     {"labErode",    ControlKind::Label,         "Frame2",  "Erosion duration:",       240,  3600,  1575,   255,  31},
     {"txtErode",    ControlKind::TextBox,       "Frame2",  "",                       1920,  3600,   735,   285,  32},
     {"cmdDelete",   ControlKind::CommandButton, "Frame2",  "Delete",                 4080,   360,   735,   255,  33},
-    {"cmbDown",     ControlKind::ComboBox,      "Frame2",  "Down Side",              2760,  3600,  2055,   315,  36, Look::OwnPointer},
+    {"cmbDown",     ControlKind::ComboBox,      "Frame2",  "Down Side",              2760,  3600,  2055,   315,  36, Look::CustomPointer},
     {"cmdAdd",      ControlKind::CommandButton, "Frame2",  "Add",                    3360,   360,   615,   255,  37},
     {"cmbFlow",     ControlKind::ComboBox,      "Frame2",  "Flow Duration",          2760,  2520,  1515,   315,  41},
     {"txtLava",     ControlKind::TextBox,       "Frame2",  "",                       4200,  2520,   615,   315,  42},
@@ -192,7 +192,6 @@ constexpr const CatalogueRow* FindRow(std::string_view name) {
     return found == Rows.end() ? nullptr : found;
 }
 
-// A row per control: two of a name would make one of two controls.
 consteval bool NamesDiffer() {
     return std::all_of(Rows.begin(), Rows.end(),
                        [](const CatalogueRow& row) { return FindRow(row.name) == &row; });
@@ -203,15 +202,16 @@ consteval bool AllExist(std::span<const NamedText> names) {
     return std::all_of(names.begin(), names.end(),
                        [](const NamedText& each) { return FindRow(each.control) != nullptr; });
 }
-static_assert(AllExist(Tips) && AllExist(Labels) && AllExist(Names), "a name of no control");
+static_assert(AllExist(Tips) && AllExist(Labels) && AllExist(Names),
+              "each text is for a control with a row");
 static_assert(std::all_of(Labels.begin(), Labels.end(),
                           [](const NamedText& row) {
                               const CatalogueRow* const label = FindRow(row.text);
                               return label != nullptr && label->kind == ControlKind::Label;
                           }),
-              "a name of no label");
+              "each label is a label with a row");
 
-consteval bool HasSpokenName(const CatalogueRow& row) {
+consteval bool HasAccessibleName(const CatalogueRow& row) {
     const auto names = [&row](const NamedText& each) { return each.control == row.name; };
     const bool edited = row.kind == ControlKind::TextBox || row.kind == ControlKind::ComboBox;
     const bool captioned =
@@ -219,8 +219,8 @@ consteval bool HasSpokenName(const CatalogueRow& row) {
     return captioned || std::any_of(Labels.begin(), Labels.end(), names) ||
            std::any_of(Names.begin(), Names.end(), names);
 }
-static_assert(std::all_of(Rows.begin(), Rows.end(), HasSpokenName),
-              "a control without a caption has a label or a spoken name");
+static_assert(std::all_of(Rows.begin(), Rows.end(), HasAccessibleName),
+              "a control without a caption has a label or an accessible name");
 
 }  // namespace
 
@@ -228,8 +228,8 @@ std::span<const CatalogueRow> Catalogue() { return Rows; }
 
 std::span<const NamedText> ToolTips() { return Tips; }
 
-std::span<const NamedText> LabelsOf() { return Labels; }
+std::span<const NamedText> ControlLabels() { return Labels; }
 
-std::span<const NamedText> SpokenNames() { return Names; }
+std::span<const NamedText> AccessibleNames() { return Names; }
 
-std::span<const NamedText> SpokenDescriptions() { return Descriptions; }
+std::span<const NamedText> AccessibleDescriptions() { return Descriptions; }

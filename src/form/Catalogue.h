@@ -1,6 +1,6 @@
-// The form's catalogue: every control with its kind, its caption and its place as the form stands
-// before it is loaded, the tool tips that loading gives them, and what a reader of the screen
-// calls them. It names controls and knows none.
+// The catalogue of the form: every control with its kind, caption and place before the form is
+// loaded, the tool tips set on loading, and the names and descriptions for screen readers. It
+// refers to controls only by name.
 #pragma once
 
 #include <span>
@@ -11,7 +11,7 @@
 constexpr std::string_view FormCaption = "Edit Tephrex Record";
 constexpr std::string_view CloseCaption = "Close";  // of Command1 and Command2, once loaded
 constexpr std::string_view SaveCaption = "Save";
-constexpr int FormWidth = 7665;  // the area inside the window's border
+constexpr int FormWidth = 7665;  // in twips, inside the window's border
 constexpr int FormHeight = 5970;
 
 /// All 74 controls.
@@ -20,12 +20,12 @@ std::span<const CatalogueRow> Catalogue();
 /// The tool tips; a control that is not here has none.
 std::span<const NamedText> ToolTips();
 
-/// The controls that a label stands beside; the text is the name of that label. The label of one
-/// option counts for its whole group.
-std::span<const NamedText> LabelsOf();
+/// The controls that have a label beside them, each with the name of that label. The label of one
+/// option is for its whole group.
+std::span<const NamedText> ControlLabels();
 
-/// The names of the controls that have neither a label nor a caption to be called by.
-std::span<const NamedText> SpokenNames();
+/// The accessible names of the controls that have neither a label nor a caption.
+std::span<const NamedText> AccessibleNames();
 
-/// What a screen reader says of the controls that have no tool tip to be described by.
-std::span<const NamedText> SpokenDescriptions();
+/// The accessible descriptions of controls that have no tool tip.
+std::span<const NamedText> AccessibleDescriptions();

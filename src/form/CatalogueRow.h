@@ -1,5 +1,5 @@
-// What the catalogue of a form says of a control: its kind, its caption and its place. The rows of
-// this form are in Catalogue.
+// The types of the catalogue: the row of a control, with its kind, caption and place. The rows are
+// in Catalogue.
 #pragma once
 
 #include <string_view>
@@ -15,19 +15,20 @@ enum class ControlKind {
     CommonDialog,
 };
 
-/// Where a control departs from the look of its kind.
+/// How a control differs from the usual look of its kind.
 enum class Look {
     Usual,
     LeftAligned,  // a label; labels are right-aligned otherwise
     OutputField,  // a label: centred in a border, pale cyan
     DisabledAtStart,
-    AnyText,      // a text box: not only for a number
-    OpenPicture,  // a button: hidden until loading, an opening folder in place of a caption
-    OwnPointer,   // the mouse has a pointer of its own over it
+    AnyText,   // a text box: not only for numbers
+    OpenIcon,  // a button: hidden until loading, with an icon of an opening folder and no caption
+    CustomPointer,  // the mouse pointer over it is a hand
 };
 
-/// Places are in twips, counted from the top left corner of the frame, or of the form where
-/// `frame` is empty.
+/// Places and sizes are in twips, from the top left corner of the frame, or of the form if `frame`
+/// is empty. `tab` is the place in the form's Tab order, from 0; of two controls that overlap the
+/// one with the higher `tab` lies above.
 struct CatalogueRow {
     std::string_view name;
     ControlKind kind;
@@ -41,7 +42,7 @@ struct CatalogueRow {
     Look look = Look::Usual;
 };
 
-/// A text for a control that is named.
+/// A text for the control of that name.
 struct NamedText {
     std::string_view control;
     std::string_view text;

@@ -16,21 +16,21 @@ Control::Control(Form& owner, std::string_view ownName) : form(owner), name(ownN
 }
 
 void Control::TakeFocus() {
-    if (!OpenToUser() || form.active == this) {
+    if (!AcceptsUserActions() || form.active == this) {
         return;
     }
     form.active = this;
-    FocusCame();
+    OnFocus();
 }
 
 void Control::MoveMouse() {
-    if (OpenToUser()) {
+    if (AcceptsUserActions()) {
         Raise(MouseMove);
     }
 }
 
 void CommandButton::Press() {
-    if (OpenToUser()) {
+    if (AcceptsUserActions()) {
         Raise(Click);
     }
 }
@@ -42,7 +42,7 @@ void CheckBox::SetValue(int newValue) {
 }
 
 void CheckBox::Toggle() {
-    if (OpenToUser()) {
+    if (AcceptsUserActions()) {
         SetValue(1 - value);
     }
 }
@@ -65,7 +65,7 @@ void OptionButton::SetValue(bool newValue) {
 }
 
 void OptionButton::Choose() {
-    if (OpenToUser()) {
+    if (AcceptsUserActions()) {
         SetValue(true);
     }
 }
@@ -79,14 +79,14 @@ void TextBox::Select(std::size_t start, std::size_t length) {
 }
 
 void TextBox::PressKey(std::string_view newText, std::size_t caret) {
-    if (OpenToUser()) {
+    if (AcceptsUserActions()) {
         Raise(KeyPress);
         ReplaceText(newText, caret);
     }
 }
 
 void TextBox::Edit(std::string_view newText, std::size_t caret) {
-    if (OpenToUser()) {
+    if (AcceptsUserActions()) {
         ReplaceText(newText, caret);
     }
 }
@@ -100,7 +100,7 @@ void TextBox::ReplaceText(std::string_view newText, std::size_t caret) {
 
 void ComboBox::AddItem(std::string entry) {
     entries.push_back(std::move(entry));
-    Tell();
+    NotifyObserver();
 }
 
 void ComboBox::RemoveItem(std::size_t position) {
@@ -108,26 +108,26 @@ void ComboBox::RemoveItem(std::size_t position) {
         throw std::out_of_range("Invalid list position");
     }
     entries.erase(entries.begin() + static_cast<std::ptrdiff_t>(position));
-    Tell();
+    NotifyObserver();
 }
 
 void ComboBox::Clear() {
     if (!entries.empty()) {
         entries.clear();
-        Tell();
+        NotifyObserver();
     }
     SetText("");
 }
 
 void ComboBox::Pick(std::size_t position) {
-    if (OpenToUser() && position < entries.size()) {
+    if (AcceptsUserActions() && position < entries.size()) {
         SetText(entries[position]);
         Raise(Click);
     }
 }
 
 void ComboBox::Type(std::string_view newText) {
-    if (OpenToUser()) {
+    if (AcceptsUserActions()) {
         SetText(newText);
     }
 }

@@ -1,10 +1,9 @@
-// The controls of a form as the handlers see them: properties, the events that setting them
-// raises, and the doors through which the user acts. Nothing here knows a toolkit, and nothing
-// here knows what the form is for.
+// The controls of a form as the handlers see them: properties, events and user actions. They depend
+// neither on a toolkit nor on the purpose of the form.
 //
-// Properties are set by code through setters, which no state of a control refuses. The user acts
-// through the doors (PressKey, Edit, Pick, Toggle and so on), which a disabled or hidden control
-// keeps shut. An event is raised inside the call that causes it, with the new value in place.
+// Code sets properties through setters, which work in any state of the control. User actions
+// (PressKey, Edit, Pick, Toggle and so on) are ignored by a disabled or hidden control. An event is
+// raised inside the call that causes it, after the new value is stored.
 #pragma once
 
 #include <cstddef>
@@ -28,14 +27,14 @@ public:
 
     /// In the order in which they were declared.
     const std::vector<Control*>& Controls() const { return controls; }
-    /// The control of that name, null when there is none.
+    /// The control of that name, null if there is none.
     Control* Find(std::string_view name) const;
-    /// The control that has the focus, null when none has it.
+    /// The control that has the focus, null if none has it.
     Control* ActiveControl() const { return active; }
 
-    /// Told which control has just changed, before the event of the change is raised.
+    /// Called with each control that has changed, before the event of the change is raised.
     std::function<void(Control&)> Observer;
-    /// Raised when the form goes.
+    /// Raised when the form is unloaded.
     Event Unload;
 
 private:
@@ -60,27 +59,28 @@ public:
     const std::string& ToolTipText() const { return toolTipText; }
     void SetToolTipText(std::string_view value) { Assign(toolTipText, value); }
 
-    /// Whether the user's doors of this control are open.
-    bool OpenToUser() const { return enabled && visible; }
-    /// Door: the focus comes to this control. Nothing happens when it is here already.
+    /// Whether the control accepts user actions: it is enabled and visible.
+    bool AcceptsUserActions() const { return enabled && visible; }
+    /// User action: the focus moves to this control. Does nothing if it is there already.
     void TakeFocus();
-    /// Door: the mouse moves over this control.
+    /// User action: the mouse moves over this control.
     void MoveMouse();
 
     Event MouseMove;
 
 protected:
-    /// Stores a new value and tells the observer; false, and nothing done, for the same value.
+    /// Stores a new value and notifies the observer; does nothing and returns false for the same
+    /// one.
     template <class Property, class Value>
     bool Assign(Property& property, const Value& value) {
         if (property == value) {
             return false;
         }
         property = value;
-        Tell();
+        NotifyObserver();
         return true;
     }
-    void Tell() {
+    void NotifyObserver() {
         if (form.Observer) {
             form.Observer(*this);
         }
@@ -90,7 +90,7 @@ protected:
             event();
         }
     }
-    virtual void FocusCame() {}
+    virtual void OnFocus() {}
 
     Form& form;
 
@@ -127,11 +127,11 @@ public:
     using CaptionedControl::CaptionedControl;
     Event Click;
 
-    /// Door: the user presses the button.
+    /// User action: presses the button.
     void Press();
 };
 
-/// `Value` is 0 clear or 1 checked.
+/// `Value` is 0 (clear) or 1 (checked).
 class CheckBox : public CaptionedControl {
 public:
     using CaptionedControl::CaptionedControl;
@@ -140,26 +140,26 @@ public:
     int Value() const { return value; }
     /// Anything but 1 clears the box. Raises Click if the box changes.
     void SetValue(int newValue);
-    /// Door: the user toggles the box.
+    /// User action: toggles the box.
     void Toggle();
 
 private:
     int value = 0;
 };
 
-/// One of a group; selecting it takes the selection from the others of the group.
+/// One of a group; selecting it clears the others of the group.
 class OptionButton : public CaptionedControl {
 public:
     using Group = std::vector<OptionButton*>;
 
-    /// Joins the group, which the form keeps for as long as its options live.
+    /// Joins the group, which must outlive the option.
     OptionButton(Form& owner, std::string_view ownName, Group& ownGroup);
     Event Click;
 
     bool Value() const { return value; }
     /// True selects the option and raises Click if it was not selected. False only clears it.
     void SetValue(bool newValue);
-    /// Door: the user chooses the option.
+    /// User action: chooses the option.
     void Choose();
 
 private:
@@ -167,8 +167,8 @@ private:
     bool value = false;
 };
 
-/// A line of text. Selections count in bytes of `Text`; no selection is one of length 0 at the
-/// insertion point.
+/// A line of text. Selections are measured in bytes of `Text`; one of length 0 is the insertion
+/// point.
 class TextBox : public Control {
 public:
     using Control::Control;
@@ -177,24 +177,25 @@ public:
     Event KeyPress;
 
     const std::string& Text() const { return text; }
-    /// A different text is stored, the insertion point goes behind it, and Change is raised.
+    /// Stores a different text, moves the insertion point to its end and raises Change.
     void SetText(std::string_view newText);
 
     std::size_t SelStart() const { return selStart; }
     std::size_t SelLength() const { return selLength; }
-    /// Selects; what lies outside the text is cut off. For code and user alike, raises nothing.
+    /// Selects; the part outside the text is cut off. Works for code and user alike, raises
+    /// nothing.
     void Select(std::size_t start, std::size_t length);
 
     static constexpr std::size_t AtEnd = static_cast<std::size_t>(-1);
-    /// Door: a key is pressed that leads to this text, with the insertion point at `caret`. Raises
-    /// KeyPress, then Change if the text is another one.
+    /// User action: a key press results in this text, with the insertion point at byte `caret`.
+    /// Raises KeyPress, then Change if the text differs.
     void PressKey(std::string_view newText, std::size_t caret = AtEnd);
-    /// Door: the text is edited without a key (pasted, dropped, undone). Raises Change if the
-    /// text is another one.
+    /// User action: edits the text without a key (pasted, dropped, undone). Raises Change if the
+    /// text differs.
     void Edit(std::string_view newText, std::size_t caret = AtEnd);
 
 private:
-    void FocusCame() override { Raise(GotFocus); }
+    void OnFocus() override { Raise(GotFocus); }
     void ReplaceText(std::string_view newText, std::size_t caret);
 
     std::string text;
@@ -202,7 +203,7 @@ private:
     std::size_t selLength = 0;
 };
 
-/// A drop-down list with a box that can hold any text, also one that is no entry.
+/// A drop-down list with a box that can hold any text, even one that is not an entry.
 class ComboBox : public Control {
 public:
     using Control::Control;
@@ -214,15 +215,15 @@ public:
 
     const std::vector<std::string>& Entries() const { return entries; }
     void AddItem(std::string entry);
-    /// Removes the entry at a position counted from 0; std::out_of_range if there is none.
+    /// Removes the entry at a position counted from 0; throws std::out_of_range if there is none.
     void RemoveItem(std::size_t position);
     /// Removes all entries and empties the box.
     void Clear();
 
-    /// Door: the user picks the entry at a position counted from 0. The box takes its text, then
-    /// Click is raised. A position that the list does not have picks nothing.
+    /// User action: picks the entry at a position counted from 0. The box takes its text, then
+    /// Click is raised. A position that the list does not have is ignored.
     void Pick(std::size_t position);
-    /// Door: the user types into the box. Raises nothing.
+    /// User action: types into the box. Raises nothing.
     void Type(std::string_view newText);
 
 private:
@@ -230,8 +231,8 @@ private:
     std::vector<std::string> entries;
 };
 
-/// Asks for file names and fronts the help viewer. It is one object for all uses: a property that
-/// is not set again keeps its last value.
+/// The dialog for file names, and the settings of the help viewer. One object is used for all: a
+/// property that is not set again keeps its last value.
 class CommonDialog : public Control {
 public:
     using Control::Control;
@@ -242,10 +243,10 @@ public:
     static constexpr int Quit = 2;       // help: close the viewer
 
     std::string DialogTitle;
-    std::string Filter;  // pairs of description and pattern, each closed by a vertical bar
+    std::string Filter;  // pairs of description and pattern, each followed by a vertical bar
     int FilterIndex = 1;
     int Flags = 0;
-    bool CancelError = false;  // true: leaving by Cancel is told to the caller
+    bool CancelError = false;  // true: Cancel makes ShowOpen and ShowSave return false
     std::string DefaultExt;    // added to a name given without one
     std::string FileName;      // offered when the dialog opens, chosen when it closes
     std::string InitDir;
@@ -253,7 +254,7 @@ public:
     int HelpContext = 0;
     int HelpCommand = 0;
 
-    /// Shows the dialog. False: it failed or, with `CancelError`, was cancelled.
+    /// Shows the dialog. False if it failed or was cancelled; always true without `CancelError`.
     [[nodiscard]] bool ShowOpen(FileDialogs& dialogs);
     [[nodiscard]] bool ShowSave(FileDialogs& dialogs);
 };

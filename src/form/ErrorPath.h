@@ -1,5 +1,5 @@
-// The error path of a routine: a run-time failure inside it ends it, is told to the user, and
-// goes no further.
+// The error path of a routine: an exception inside it ends it, is reported to the user and goes no
+// further.
 #pragma once
 
 #include <exception>
@@ -8,7 +8,8 @@
 
 #include "form/RecordEdit.h"
 
-/// Runs the whole body of a routine. False if a failure ended it; what it did until then stays.
+/// Runs the body of the routine named `routine`. False if an exception ended it; what it did before
+/// is not undone.
 template <class Body>
 bool WithErrorPath(RecordEdit& form, std::string_view routine, Body body) {
     try {

@@ -32,10 +32,10 @@ void LayOut(Control& control, const CatalogueRow& row) {
         captioned->SetCaption(row.caption);
     }
     control.SetEnabled(row.look != Look::DisabledAtStart);
-    control.SetVisible(row.look != Look::OpenPicture);
+    control.SetVisible(row.look != Look::OpenIcon);
 }
 
-// A control without a row, or a row without a control of its kind: the program is not built right.
+// A control without a row, or a row without a control of its kind, is a mistake in the program.
 void Require(bool holds, std::string_view name) {
     if (!holds) {
         throw std::logic_error("The form and its catalogue differ in " + std::string(name));

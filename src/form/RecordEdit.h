@@ -1,5 +1,5 @@
-// The form: its controls, its state and its services in one place, open to every handler. What
-// the controls do is told by the handlers, where they stand by the catalogue.
+// The form: its controls, its state and its services, available to every handler. What the controls
+// do is in the handlers, where they are placed is in the catalogue.
 #pragma once
 
 #include <memory>
@@ -13,8 +13,10 @@
 
 constexpr std::string_view ApplicationTitle = "TephrexEdit";
 
+/// About half a megabyte, like EditorState: create it on the heap.
 struct RecordEdit : Form, EditorState {
-    /// Every control as the catalogue has it before the form is loaded; no event has a handler.
+    /// Sets up every control from the catalogue, as before loading; no event has a handler. Throws
+    /// std::logic_error if the controls and the catalogue differ.
     RecordEdit();
 
     Frame Frame1{*this, "Frame1"};
@@ -103,25 +105,28 @@ struct RecordEdit : Form, EditorState {
 
     Services services;
     std::unique_ptr<PathHelper> pathHelper;        // from Form_Load to Form_Unload
-    std::unique_ptr<SettingsStore> settingsStore;  // likewise
+    std::unique_ptr<SettingsStore> settingsStore;  // the same
     Separators separators;                         // of the user's locale
     RandomSource random = NewRandomSource();
 
-    /// The phase on show; element 0, which belongs to no record, while there is none.
+    /// The phase shown and its flows; elements 0, which are not part of the record, if none is
+    /// shown.
     PhaseRecord& CurrentPhase() { return EditPhases[CurPhase]; }
     FlowRow& CurrentFlows() { return EditFlows[CurPhase]; }
 
-    /// The number that a box shows, and the text in which a box shows a number.
+    /// The number in a box, and the text of a number for a box, in the user's locale.
     Single NumberIn(const TextBox& box) const;
     std::string TextOf(Single number, Format format) const;
 
-    /// The text under which a path is shown, shortened: what the path helper gives, or the path
-    /// itself while there is no path helper.
+    /// The text to show for a path, shortened: that of the path helper, or the path itself if there
+    /// is no path helper.
     std::string ShownPath(const std::string& path) const;
 
+    /// Shows a modal message, with lines that end in CR LF, and returns when the user has closed
+    /// it.
     void ShowMessage(const std::string& text, MessageIcon icon) const;
 };
 
-/// One box, or one label, of whichever form.
+/// A text box or a label as a member of any form.
 using BoxMember = TextBox RecordEdit::*;
 using LabelMember = Label RecordEdit::*;

@@ -1,7 +1,7 @@
-// Every event of the form tied to its handler, in one place.
+// Connects every event of the form to its handler. What the handlers do is in their own units.
 #pragma once
 
 struct RecordEdit;
 
-/// Ties the events to their handlers; once, before the form is loaded.
+/// Connects the events; call it once, before the form is loaded.
 void Wire(RecordEdit& form);

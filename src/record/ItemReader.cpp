@@ -64,11 +64,11 @@ bool ItemReader::Is(std::size_t position, unsigned classes) const {
     return (ClassOf(buffer[position]) & classes) != 0;
 }
 
-// A number as files mostly have it, with its separator in the buffer, needs no second look. False,
-// and nothing taken, for any other item.
+// The fast path: a number that its separator follows at once, both in the buffer. Returns false and
+// leaves the item in place otherwise.
 template <class Number>
 bool ItemReader::ReadInPlace(Number& value) {
-    PassPending();
+    SkipPending();
     itemLine = line;
     Number number = 0;
     const auto [stop, error] = std::from_chars(buffer.get() + at, buffer.get() + end, number);
@@ -93,7 +93,7 @@ Number ItemReader::Convert() {
 }
 
 std::string_view ItemReader::Next(unsigned ends) {
-    PassPending();
+    SkipPending();
     SkipWhile([this] { return Is(at, Blank); });
     itemLine = line;
     if (!More()) {
@@ -112,9 +112,9 @@ std::string_view ItemReader::Next(unsigned ends) {
     return item;
 }
 
-// Takes what belongs to the last item: blanks and one comma or line end; after a closing quote
-// anything up to there.
-void ItemReader::PassPending() {
+// Skips what follows the last item: blanks and one comma or line end; after a quoted item
+// everything up to and including that separator.
+void ItemReader::SkipPending() {
     const Pending left = std::exchange(pending, Pending::Nothing);
     if (left == Pending::Rest) {
         at += at < end ? 1 : 0;  // the closing quote
@@ -132,7 +132,7 @@ void ItemReader::PassPending() {
     }
 }
 
-std::int64_t ItemReader::LineOfMore() {
+std::int64_t ItemReader::LineOfTrailingText() {
     if (pending == Pending::Nothing && at > 0 && buffer[at - 1] == ',') {
         return line;
     }
@@ -169,7 +169,7 @@ int ItemReader::LineEndsIn(std::size_t first, std::size_t last) const {
     return count;
 }
 
-// However much there is to skip, it belongs to one item, and an item has an end.
+// What is skipped belongs to one item, so the longest item limits it too.
 template <class Condition>
 void ItemReader::SkipWhile(Condition condition) {
     for (std::size_t skipped = 0; More() && condition(); ++at) {
@@ -179,8 +179,8 @@ void ItemReader::SkipWhile(Condition condition) {
     }
 }
 
-// The length of the item at `at`, which ends before a character of these classes or with the
-// stream.
+// The length of the item at `at`, which ends before a character of these classes or at the end of
+// the stream.
 std::size_t ItemReader::Measure(unsigned ends) {
     std::size_t length = 0;
     do {
@@ -194,8 +194,8 @@ std::size_t ItemReader::Measure(unsigned ends) {
     return length;
 }
 
-// Brings in another piece after what is not yet taken; false at the end of the stream, which stays
-// the end even if the stream has more to give after a fault.
+// Reads another piece after the bytes not yet consumed; false at the end of the stream. From then
+// on nothing more is read, even from a stream that could continue after a fault.
 bool ItemReader::Refill() {
     if (ended) {
         return false;

@@ -1,5 +1,5 @@
-// The items of a stream one after another, texts and numbers, and the lines that they are on. What
-// they mean in a record is in RecordItems.
+// Reads the items of a stream one after another, texts and numbers, and counts lines. What the
+// items mean in a record is in RecordItems.
 #pragma once
 
 #include <cstddef>
@@ -11,51 +11,53 @@
 
 #include "record/PhaseRecord.h"
 
-/// Why an item cannot be read, in words for the user: the stream is at its end, the item is longer
-/// than LongestItem, or its number is out of range. A stream that fails throws its own failure.
+/// Why an item cannot be read, as a message for the user: the stream is at its end, the item is
+/// longer than LongestItem, or its number is out of range. A stream that fails throws its own
+/// exception.
 struct ReadError : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-/// The most bytes that an item can have, or that can be passed over before or after it.
+/// The most bytes that an item can have, or that can be skipped before or after it.
 constexpr std::size_t LongestItem = 65535;
 
-/// Cuts a stream into items. It looks no further ahead than the piece in which an item ends, and
-/// what comes after an item is taken only when the next one is asked for. Every read throws
-/// ReadError where there is no item.
+/// Splits a stream into items. It reads no further than the piece in which an item ends, and
+/// consumes what follows an item only when the next one is requested. Every read throws ReadError
+/// if there is no item.
 class ItemReader {
 public:
     /// The stream must outlive the reader.
     explicit ItemReader(std::streambuf& stream);
 
-    /// An item of any kind, as text; the view holds until the next item is read.
+    /// An item of any kind, as text; the view is valid until the next item is read.
     std::string_view Text();
 
-    /// Passes over an item that is delimited as a number, whatever it is.
+    /// Skips an item that ends where a number would, at a blank too, whatever it contains.
     void SkipNumber();
 
-    /// An item that is no number gives 0; a fraction is rounded, a tie to the even neighbour.
+    /// Reads a number; 0 for an item that is not a number. For an Integer a fraction is rounded, a
+    /// tie to the even neighbour. Throws ReadError for a number that the type cannot hold.
     void Read(Single& value);
     void Read(Integer& value);
 
     /// The line of the last item's first character, counted from 1: of its opening quote, or of the
-    /// separator of an empty item. CR LF, LF and CR end a line, in quotes too. Where there was no
-    /// item, the last line that holds a byte.
+    /// separator of an empty item. CR LF, LF and CR end a line, in quotes too. If there was no
+    /// item, the last line that has a byte.
     std::int64_t Line() const { return itemLine; }
 
-    /// Whether the last item was a number as files mostly have it. Of any other item, until the
-    /// next is read: its text, and whether it was in quotes.
+    /// Whether the last item was a number directly followed by its separator. For any other item,
+    /// until the next is read: its text, and whether it was in quotes.
     bool Plain() const { return pending == Pending::Nothing; }
     std::string_view Item() const { return item; }
     bool Quoted() const { return pending == Pending::Rest; }
 
     /// Whether more than blanks was dropped after the closing quote of the last quoted item; known
-    /// once the next item has been asked for, or what follows the last one.
+    /// once the next item has been read or LineOfTrailingText called.
     bool Dropped() const { return dropped; }
 
     /// The line of the first character after the last item that is neither a blank nor a line end;
     /// 0 if there is none. Reads to it, or to the end of the stream; then no item can be read.
-    std::int64_t LineOfMore();
+    std::int64_t LineOfTrailingText();
 
 private:
     // What is still between the last item and the next.
@@ -67,7 +69,7 @@ private:
     template <class Number>
     Number Convert();
     std::string_view Next(unsigned ends);
-    void PassPending();
+    void SkipPending();
     void TakeSeparator();
     template <class Condition>
     void SkipWhile(Condition condition);
@@ -83,8 +85,8 @@ private:
     bool ended = false;
     bool dropped = false;
     std::string_view item;
-    char lastByte = 0;  // that the stream has given
+    char lastByte = 0;  // of the stream, so far
     Pending pending = Pending::Nothing;
-    std::int64_t line = 1;  // of what comes next
+    std::int64_t line = 1;  // of the next byte
     std::int64_t itemLine = 1;
 };

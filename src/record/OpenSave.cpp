@@ -6,7 +6,7 @@
 
 namespace {
 
-// Asks until the user gives a name that may be written, or cancels.
+// Asks until the user gives a name that may be written; false if the user cancels.
 bool AskSaveName(RecordEdit& form) {
     for (;;) {
         form.CD1.DialogTitle = "Save Record File";

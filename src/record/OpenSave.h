@@ -1,13 +1,13 @@
-// Moving a record between a file and the loaded copy, with the dialogs around it. The text form
-// of the file stands in RecordFile.
+// Opens and saves a record, with the file dialogs and messages. The text form of the file is in
+// RecordFile.
 #pragma once
 
 struct RecordEdit;
 
-/// Reads the record that the user chooses; unsaved changes are dropped without a question. A read
-/// that fails ends silently and leaves the working copy on show.
+/// Reads the record file that the user chooses and drops unsaved changes without asking. A failed
+/// read shows no message and keeps the working copy; the loaded copy keeps what was read.
 void cmdOpen_Click(RecordEdit& form);
 
-/// Asks for a name and writes the loaded copy under it. A write that fails is told, and Save stays
-/// enabled.
+/// Asks for a name and writes the loaded copy to that file. A failed write is reported, and Save
+/// stays enabled.
 void SaveRec(RecordEdit& form);

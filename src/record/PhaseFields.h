@@ -1,5 +1,5 @@
-// The 27 fields of a phase as one table, in the order of the file: what each is called, where a
-// record file has it, and which numbers its box on the form takes. Which types use a field is in
+// The 27 fields of a phase as one table, in the order of the file: the name of each, its line in a
+// record file, and what its box on the form does with a number. Which types use a field is in
 // FieldUse, which numbers may be saved in Limits.
 #pragma once
 
@@ -12,14 +12,14 @@
 
 #include "record/PhaseRecord.h"
 
-/// A field that is named: by the member that holds it.
+/// A field, given by the member that holds it.
 using FieldMember = std::variant<Single PhaseRecord::*, Integer PhaseRecord::*>;
 
-/// What the box of a field makes of a number.
+/// What the box of a field does with a number.
 struct FieldRange {
     enum Rule {
         AnyNumber,  // any number is stored
-        Between,    // the number is held in low..high
+        Between,    // the number is clamped to low..high
         AboveZero,  // a number at or below 0 becomes 1
     } rule;
     Single low = 0;
@@ -75,7 +75,7 @@ inline constexpr std::array<PhaseField, 27> PhaseFields{{
 }};
 // clang-format on
 
-// Stands for a field of any type while the fields are counted.
+// Converts to a field of any type, to count the fields.
 struct AnyField {
     template <class Field>
     constexpr operator Field() const;  // NOLINT(google-explicit-constructor)
@@ -111,7 +111,7 @@ consteval const PhaseField& FieldOf(const FieldMember& member) {
                          [&member](const PhaseField& field) { return field.member == member; });
 }
 
-/// The number of a row of the table, from 0.
+/// The index of a row in the table, from 0. `field` must be that row itself, not a copy.
 constexpr std::size_t IndexOf(const PhaseField& field) {
     return static_cast<std::size_t>(&field - PhaseFields.data());
 }
@@ -123,7 +123,7 @@ inline Single ValueOf(const PhaseRecord& phase, const PhaseField& field) {
 }
 
 /// Calls `visit(index, value)` for each field of a phase in the order of the table. The index is a
-/// constant that carries its number in its type, so the loop is unrolled.
+/// std::integral_constant, so `visit` can use it at compile time.
 template <class Phase, class Visit>
 constexpr void ForEachField(Phase& phase, Visit visit) {
     [&]<std::size_t... I>(std::index_sequence<I...>) {

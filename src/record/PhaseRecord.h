@@ -1,5 +1,5 @@
-// One phase of a record: its 27 numbers and the codes that some of them hold. How they are
-// stored, judged and shown is told elsewhere.
+// One phase of a record: its 27 numbers and the codes that some of them hold. Their text
+// form is in RecordFile, their limits are in Limits.
 #pragma once
 
 #include <algorithm>
@@ -13,10 +13,10 @@ using Integer = std::int16_t;
 constexpr Integer MaxPhases = 500;
 constexpr Integer MaxFlows = 100;
 
-/// Codes of `PhaseRecord::eruptionType`. A file can bring any other code too.
+/// Codes of `PhaseRecord::eruptionType`. A file may contain any other code too.
 namespace EruptionType {
 constexpr Integer None = -1;     // a phase just added, no type chosen yet
-constexpr Integer Tectonic = 0;  // tectonicKind tells which
+constexpr Integer Tectonic = 0;  // tectonicKind says which
 constexpr Integer Vulcanian = 1;
 constexpr Integer Strombolian = 2;
 constexpr Integer Hawaiian = 3;
@@ -50,15 +50,16 @@ constexpr Integer Left = 1;
 constexpr Integer Right = 2;
 }  // namespace DownSide
 
-/// One event of an eruption history. Every phase has every field; its type decides which count.
-/// Flags are 0 and 1. The numbers have no physical unit here: the simulator gives them theirs.
+/// One event of an eruption history. Every phase has every field; its type decides which it uses.
+/// Flags are 0 or 1, but a file may contain other numbers. The numbers have no physical unit here;
+/// the simulator defines it.
 struct PhaseRecord {
     Single ventLocation = 0;
     Integer eruptionType = 0;
     Single strength = 0;
     Single wind = 0;  // the sign is the direction
     Single massFlux = 0;
-    Integer calderaFlag = 0;  // a caldera or, by type and strength, a diatreme
+    Integer calderaFlag = 0;  // a caldera or, depending on type and strength, a diatreme
     Integer directedFlag = 0;
     Integer calderaStyle = 0;
     Single scarpTop = 0;
@@ -85,23 +86,23 @@ struct PhaseRecord {
 };
 
 using FlowRow = Table<Single, MaxFlows>;      // flow durations of one phase; column 0 is unused
-using FlowTable = Table<FlowRow, MaxPhases>;  // one row a phase; row 0 belongs to no record
+using FlowTable = Table<FlowRow, MaxPhases>;  // one row per phase; row 0 is not part of the record
 using PhaseTable = Table<PhaseRecord, MaxPhases>;
 
-/// Only these phases have flows; the flow row of any other phase does not count.
+/// Whether the phase has flows; the flow row of any other phase is ignored.
 constexpr bool HasFlows(const PhaseRecord& phase) {
     return phase.eruptionType == EruptionType::Hawaiian ||
            phase.eruptionType == EruptionType::Pelean;
 }
 
-/// The flows that a routine without an error path looks at: `burstCount`, but never past the
-/// table's end, however large a count a file or a user brings.
-constexpr int FlowsWithinTable(const PhaseRecord& phase) {
+/// The number of flows for routines without an error path: `burstCount`, but at most 100, since a
+/// user can enter a larger count.
+constexpr int CappedFlowCount(const PhaseRecord& phase) {
     return std::min<int>(phase.burstCount, MaxFlows);
 }
 
-/// Copies durations 1 to `count` from one row to another. A count above the table's end throws
-/// std::out_of_range when it gets there; nothing is written outside the row.
+/// Copies durations 1 to `count` from one row to another. A count above 100 throws
+/// std::out_of_range after duration 100 is copied; nothing is written outside the row.
 inline void CopyFlows(const FlowRow& from, FlowRow& to, int count) {
     for (int j = 1; j <= count; ++j) {
         to[j] = from[j];

@@ -28,8 +28,8 @@ char* WriteDigits(char* to, char* end, Single item) {
     return end;
 }
 
-// Builds lines of items and hands them to a stream, a piece at a time. Every item brings what comes
-// after it.
+// Collects items and writes them to a stream in large pieces. Each item is added with the separator
+// or line end after it.
 class LineWriter {
 public:
     explicit LineWriter(std::streambuf& stream) : target(stream) {}
@@ -121,7 +121,7 @@ ReadResult ReadRecord(std::streambuf& source, EditorState& state) {
 ReadResult ReadRecordFile(const std::string& path, EditorState& state) {
     std::error_code error;
     if (!std::filesystem::is_regular_file(path, error)) {
-        // Opening a pipe would wait for somebody to write into it.
+        // Opening a pipe would wait for a writer.
         return NotOpened(error ? error.message() : "not a regular file");
     }
     std::filebuf file;
@@ -156,7 +156,7 @@ bool WriteRecordFile(const std::string& path, const EditorState& state) {
     }
     std::error_code error;
     if (std::filesystem::is_fifo(path, error)) {
-        return false;  // opening it would wait for somebody to read from it
+        return false;  // opening it would wait for a reader
     }
     std::filebuf file;
     if (file.open(path, std::ios::out | std::ios::trunc | std::ios::binary) == nullptr) {

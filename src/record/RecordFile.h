@@ -7,7 +7,7 @@
 //     "Recorded phases",LoadedPhaseCount,RecordScale
 //
 // and for each phase an empty line, the line "Record Phase: ",number and six lines with its 27
-// fields; for Hawaiian and Peléean phases a line for each flow duration next.
+// fields; then, for Hawaiian and Peléean phases, a line for each flow duration.
 #pragma once
 
 #include <cstdint>
@@ -20,15 +20,15 @@
 #include "record/EditorState.h"
 #include "record/RecordItems.h"
 
-/// As many digits of a Single are written; more of them read as well.
+/// The number of digits with which a Single is written; a file with more can be read too.
 constexpr int SignificantDigits = 7;
 
 /// Where and why a read ended before its record did.
 struct ReadFailure {
-    std::string reason;     // what was wrong, in words for the user
+    std::string reason;     // what was wrong, as a message for the user
     std::int64_t line = 0;  // of the item; 0 if the file could not even be opened
-    ItemPlace place = {};   // the item that was to be read
-    bool device = false;    // the file or its device failed, and not its text
+    ItemPlace place = {};   // the item that could not be read
+    bool device = false;    // true: the device failed; false: the text is wrong
 };
 
 /// True when the whole record was read.
@@ -37,13 +37,14 @@ struct ReadResult {
     explicit operator bool() const { return !failure; }
 };
 
-/// Fills the loaded copy (StratFile, LoadedPhaseCount, RecordScale, LoadedPhases, LoadedFlows)
-/// from a stream, in pieces, and no further than the record calls for. Fails if the stream ends
-/// too early or fails, or if a count or a number is out of range; what came before it is kept.
+/// Reads a record from a stream, in pieces, into the loaded copy (StratFile, LoadedPhaseCount,
+/// RecordScale, LoadedPhases, LoadedFlows), and does not read past the piece in which it ends.
+/// Fails if the stream ends too early or fails, or if a count or a number is out of range; what was
+/// read before that is kept.
 ReadResult ReadRecord(std::streambuf& source, EditorState& state);
 
-/// The same with a reader of one's own, which has the functions of ItemReader. `place` is always
-/// that of the item that is being read.
+/// The same with any reader that has the functions of ItemReader. `place` is kept at the item being
+/// read.
 template <class Reader>
 ReadResult ReadRecordWith(Reader& in, EditorState& state, ItemPlace& place) {
     try {
@@ -56,20 +57,20 @@ ReadResult ReadRecordWith(Reader& in, EditorState& state, ItemPlace& place) {
     }
 }
 
-/// The same for a regular file or a link to one; anything else under that name reads as failed.
+/// The same for a regular file or a link to one; anything else is a failed read.
 ReadResult ReadRecordFile(const std::string& path, EditorState& state);
 
-/// A number as a record has it: seven digits at most.
+/// The text of a number in a record file: at most seven significant digits.
 std::string ItemText(Single number);
 
-/// Whether a reference can be written so that it reads back: there is no double quote in it, and it
-/// is no longer than an item can be.
+/// Whether a reference can be written and read back: it has no double quote and is no longer than
+/// LongestItem.
 bool IsStorable(std::string_view reference);
 
-/// Writes the loaded copy. False if the stream takes less than all of it.
+/// Writes the loaded copy, whose StratFile must be storable. False if the stream does not accept
+/// all of it, or a phase has more than 100 flows.
 bool WriteRecord(std::streambuf& target, const EditorState& state);
 
-/// Replaces the file from its first line on; true only when every byte has reached it and it is
-/// closed. A reference that is not storable fails before the file is touched; so does a pipe, which
-/// would wait for a reader.
+/// Overwrites the file in place; true only if every byte was written and the file closed without an
+/// error. A reference that is not storable fails before the file is touched; so does a pipe.
 bool WriteRecordFile(const std::string& path, const EditorState& state);

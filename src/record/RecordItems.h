@@ -1,5 +1,5 @@
-// The items of a record in the order of its file, and their names. Whoever reads a record with a
-// reader of its own goes through them here; the file itself is RecordFile's.
+// The items of a record in the order of its file, their names, and reading them with any reader.
+// Opening and writing files is in RecordFile.
 #pragma once
 
 #include <string>
@@ -21,15 +21,17 @@ struct ItemPlace {
     friend bool operator==(const ItemPlace&, const ItemPlace&) = default;
 };
 
-/// The labels that a record is written with. No reader compares them with what it finds.
+/// The labels in a written record. Reading a record does not compare them with the file.
 constexpr std::string_view ReferenceLabel = "Stratigraphic file:";
 constexpr std::string_view PhaseCountLabel = "Recorded phases";
 constexpr std::string_view PhaseLabel = "Record Phase: ";
 
-/// The name of an item: that of its field, "flow 3", "phase count" and so on.
+/// The name of an item: that of its field, "flow 3", "phase count" and so on. Throws
+/// std::out_of_range for a place that no record has.
 std::string NameOf(const ItemPlace& place);
 
-/// Reads the items of the block of a phase into the phase and its flows.
+/// Reads the items of the block of a phase into the phase and its flows. Throws ReadError for more
+/// than 100 flows.
 template <class Reader>
 void ReadPhaseItems(Reader& in, ItemPlace& place, PhaseRecord& phase, FlowRow& flows) {
     place.item = ItemPlace::EmptyLine;
@@ -54,8 +56,9 @@ void ReadPhaseItems(Reader& in, ItemPlace& place, PhaseRecord& phase, FlowRow& f
     }
 }
 
-/// Reads a record into the loaded copy. `place` is always that of the item that is being read. A
-/// reader has the functions of ItemReader; what it throws ends the reading.
+/// Reads a record into the loaded copy. `place` is kept at the item being read. The reader needs
+/// the functions of ItemReader; its exceptions are not caught. Throws ReadError for a phase count
+/// outside 0 to 500.
 template <class Reader>
 void ReadRecordItems(Reader& in, ItemPlace& place, EditorState& state) {
     place = {0, ItemPlace::HeaderLabel};

@@ -1,5 +1,5 @@
-// The fixed table with checked bounds that holds everything a record is made of.
-// What the elements mean stands with their own types.
+// The table of fixed size, with checked bounds, that holds the phases and flows of a record.
+// What the elements mean is in PhaseRecord.
 #pragma once
 
 #include <array>

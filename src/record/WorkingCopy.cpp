@@ -14,7 +14,7 @@ void ShowPaths(RecordEdit& form) {
                                                    : form.ShownPath(form.StratFile));
 }
 
-// A code of no option leaves the selection where it is.
+// A code without an option leaves the selection as it is.
 void SelectScale(RecordEdit& form) {
     if (form.RecordScale == ScaleCode::NotSet) {
         form.RecordScale = ScaleCode::Normal;
@@ -38,7 +38,7 @@ void ListPhases(RecordEdit& form) {
 }
 
 void CopyPhases(RecordEdit& form) {
-    form.EditStratFile = form.StratFile;  // the whole reference, not the text on show
+    form.EditStratFile = form.StratFile;  // the whole reference, not the shortened text shown
     form.EditPhaseCount = form.LoadedPhaseCount;
     for (int i = 1; i <= form.EditPhaseCount; ++i) {
         const PhaseRecord& phase = form.LoadedPhases[i];
@@ -55,7 +55,7 @@ void ReadData(RecordEdit& form) {
     WithErrorPath(form, "ReadData", [&form] {
         form.EditFlows.Clear();
         form.EditPhases.Clear();
-        form.EditPhaseCount = 0;  // until the copy below no scale option can enable Save
+        form.EditPhaseCount = 0;  // so no scale option enables Save before the copy below
         ShowPaths(form);
         ShowPhaseCount(form, form.LoadedPhaseCount);
         SelectScale(form);

@@ -1,15 +1,18 @@
-// The working copy: rebuilding it from the loaded copy, and how what belongs to all of it is shown.
+// Rebuilds the working copy from the loaded copy and shows what concerns all phases. The way back,
+// from the working copy to the loaded one, is in ApplyParams.
 #pragma once
 
 struct RecordEdit;
 
-/// Throws the working copy away, rebuilds it from the loaded copy and shows its first phase. A
-/// failure ends it where it is, with a message.
+/// Discards the working copy, rebuilds it from the loaded copy and shows its first phase. A failure
+/// is reported and leaves the remaining steps undone.
 void ReadData(RecordEdit& form);
 
-/// Drops all changes since the last apply; a record without a file becomes empty.
+/// Drops all changes since the record was read or applied; a record without a file becomes empty.
 void cmdReset_Click(RecordEdit& form);
 
-/// The number of phases on show, and whether the form offers phases to choose, edit and delete.
+/// Shows `count` as the number of phases.
 void ShowPhaseCount(RecordEdit& form, int count);
+
+/// Enables or disables the lists of phases and types, Delete and Reset.
 void EnablePhaseList(RecordEdit& form, bool enabled);

@@ -9,7 +9,7 @@
 
 namespace {
 
-// The option controls, each with the field that it edits. The boxes follow by their own fields.
+// A control that FieldBoxes does not list, with the row of what it edits.
 struct OptionControl {
     Control& (*control)(RecordEdit& form);
     const UseRow& (*use)();
@@ -21,7 +21,7 @@ Control& Get(RecordEdit& form) {
 }
 
 template <auto Member>
-const UseRow& UseBy() {
+const UseRow& UseOfMember() {
     return UseOf(FieldOf(Member));
 }
 
@@ -30,26 +30,26 @@ using P = PhaseRecord;
 
 // clang-format off
 constexpr OptionControl OptionControls[] = {
-    {Get<&E::chkBurst>,    UseBy<&P::burstFlag>},
-    {Get<&E::chkDirected>, UseBy<&P::directedFlag>},
-    {Get<&E::chkCald>,     UseBy<&P::calderaFlag>},
-    {Get<&E::cmbStyle>,    UseBy<&P::calderaStyle>},
-    {Get<&E::cmbDown>,     UseBy<&P::faultDownSide>},
+    {Get<&E::chkBurst>,    UseOfMember<&P::burstFlag>},
+    {Get<&E::chkDirected>, UseOfMember<&P::directedFlag>},
+    {Get<&E::chkCald>,     UseOfMember<&P::calderaFlag>},
+    {Get<&E::cmbStyle>,    UseOfMember<&P::calderaStyle>},
+    {Get<&E::cmbDown>,     UseOfMember<&P::faultDownSide>},
     {Get<&E::cmbFlow>,     UseOfFlows},
     {Get<&E::txtLava>,     UseOfFlows},
 };
 // clang-format on
 
-// Faulting: a side can be thrown down along a vertical fault only.
+// Faulting: a side can be thrown down only along a vertical fault.
 void RuleA(RecordEdit& form) { form.cmbDown.SetEnabled(form.CurrentPhase().faultDip == 0); }
 
-// Type 1: the strength on show tells a caldera from a diatreme.
+// Type 1: the strength shown decides between a caldera and a diatreme.
 void RuleB(RecordEdit& form) {
     const Single strength = form.NumberIn(form.txtStr);
     if (strength >= WeakestCaldera) {
         form.chkCald.SetCaption(CalderaCaption);
         if (form.chkCald.Value() == 1) {
-            OpenCaldera(form);
+            EnableCalderaFields(form);
         }
     }
     if (strength <= StrongestDiatreme) {
@@ -68,7 +68,7 @@ void RuleC(RecordEdit& form) {
 // Type 5: a caldera at any strength.
 void RuleD(RecordEdit& form) {
     if (form.chkCald.Value() == 1) {
-        OpenCaldera(form);
+        EnableCalderaFields(form);
     }
 }
 
@@ -106,7 +106,7 @@ void EnableBurstFields(RecordEdit& form, bool enabled) {
     form.txtSlide4.SetEnabled(enabled);
 }
 
-void OpenCaldera(RecordEdit& form) {
+void EnableCalderaFields(RecordEdit& form) {
     form.cmbStyle.SetEnabled(true);
     form.cmbStyle.SetText(StyleEntry(form.CurrentPhase().calderaStyle, form.cmbStyle.Text()));
     form.labSlide4.SetCaption(VentCaption);

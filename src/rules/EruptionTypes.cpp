@@ -25,14 +25,14 @@ const TypeEntry* EntryOf(const PhaseRecord& phase) {
     });
 }
 
-std::string_view StyleEntry(Integer calderaStyle, std::string_view otherwise) {
+std::string_view StyleEntry(Integer calderaStyle, std::string_view fallback) {
     return calderaStyle == CalderaStyle::Mazama   ? MazamaEntry
            : calderaStyle == CalderaStyle::Valles ? VallesEntry
-                                                  : otherwise;
+                                                  : fallback;
 }
 
-std::string_view SideEntry(Integer faultDownSide, std::string_view otherwise) {
+std::string_view SideEntry(Integer faultDownSide, std::string_view fallback) {
     return faultDownSide == DownSide::Left    ? LeftEntry
            : faultDownSide == DownSide::Right ? RightEntry
-                                              : otherwise;
+                                              : fallback;
 }

@@ -1,5 +1,5 @@
-// The choices of a phase by name: its eruption type, the style of its caldera, the side that a
-// fault throws down. What the lists offer and what each entry stands for.
+// The names of eruption types, caldera styles and down sides: the entries of the lists and the
+// codes that they stand for. Which fields a type uses is in FieldUse.
 #pragma once
 
 #include <algorithm>
@@ -12,7 +12,7 @@
 struct TypeEntry {
     std::string_view name;
     Integer eruptionType;
-    std::optional<Integer> tectonicKind;  // nothing: a phase keeps the one it has
+    std::optional<Integer> tectonicKind;  // empty: the phase keeps its kind
 };
 
 /// The entries of the list, in its order.
@@ -28,7 +28,6 @@ constexpr std::array<TypeEntry, 9> TypeEntries{{
     {"Erosion", EruptionType::Tectonic, TectonicKind::Erosion},
 }};
 
-// A type that the list does not offer, or an entry of a type that the grids do not have.
 static_assert(
     [] {
         int known = 0;
@@ -44,15 +43,15 @@ static_assert(
     }(),
     "each eruption type has an entry, and each entry a type");
 
-/// The entry of that name, letter for letter; null if there is none.
+/// The entry with exactly that name; null if there is none.
 const TypeEntry* FindType(std::string_view name);
 
 /// The entry under which a phase is shown; null for a type without one. Any tectonic kind but
 /// Faulting is shown as Erosion.
 const TypeEntry* EntryOf(const PhaseRecord& phase);
 
-/// The entries of the list of caldera styles and of the list of down sides; and the texts that
-/// stand in the boxes while nothing is chosen, which are no entries.
+/// The entries of the lists of caldera styles and down sides; and the texts of the boxes while
+/// nothing is chosen, which are not entries.
 constexpr std::string_view VallesEntry = "Valles Type";
 constexpr std::string_view MazamaEntry = "Mazama Type";
 constexpr std::string_view NoStyleText = "Caldera Style";
@@ -60,12 +59,13 @@ constexpr std::string_view LeftEntry = "Left side down";
 constexpr std::string_view RightEntry = "Right side down";
 constexpr std::string_view NoSideText = "Down Side";
 
-/// What a caldera is called by the strength of its eruption, and what the fourth slider is by type.
+/// The captions of the caldera box, which depend on the strength, and of the fourth advanced
+/// parameter, which depend on the type.
 constexpr std::string_view CalderaCaption = "Caldera";
 constexpr std::string_view DiatremeCaption = "Diatreme";
 constexpr std::string_view VentCaption = "Vent Position";
 constexpr std::string_view FrequencyCaption = "Burst Frequency";
 
-/// The entry of a caldera style or a down side; `otherwise` for a code that has none.
-std::string_view StyleEntry(Integer calderaStyle, std::string_view otherwise);
-std::string_view SideEntry(Integer faultDownSide, std::string_view otherwise);
+/// The entry of a caldera style or a down side; `fallback` for a code that has none.
+std::string_view StyleEntry(Integer calderaStyle, std::string_view fallback);
+std::string_view SideEntry(Integer faultDownSide, std::string_view fallback);

@@ -51,7 +51,7 @@ consteval bool IsComplete(const UseRow& row) {
     return std::find(row.begin(), row.end(), Missing) == row.end();
 }
 
-// The rows by the number of their field.
+// The rows in the order of PhaseFields.
 constexpr auto Rows = [] {
     std::array<UseRow, PhaseFields.size()> rows{};
     for (const FieldUse& row : Grid) {
@@ -78,7 +78,7 @@ constexpr bool FlowsAgree() {
     }
     return true;
 }
-static_assert(FlowsAgree(), "a type has flows in the grid if it has them in the file");
+static_assert(FlowsAgree(), "a type has flows in the grid exactly if it has them in the file");
 
 }  // namespace
 

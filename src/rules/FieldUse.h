@@ -1,4 +1,4 @@
-// Which fields of a phase its eruption type uses, as one grid. What a form makes of it is in
+// Which fields of a phase its eruption type uses, as one grid. How the form uses it is in
 // Activation.
 #pragma once
 
@@ -7,13 +7,13 @@
 
 #include "record/PhaseFields.h"
 
-/// What the grid says of a field and a type of phase.
+/// What the grid says about a field and a type of phase.
 enum class Use : char {
-    Missing,  // a row that is too short; does not compile
+    Missing,  // the row is too short; does not compile
     o,        // the type does not use the field
     X,        // it does
-    A,        // Faulting: a side can be thrown down along a vertical fault only
-    B,        // Vulcanian: by the strength, with a caldera
+    A,        // Faulting: a side can be thrown down only along a vertical fault
+    B,        // Vulcanian: with a caldera, if the eruption is strong enough
     C,        // Strombolian: only a weak eruption can leave a diatreme
     D,        // Plinian: with a caldera, at any strength
     E,        // Fumarolic: with explosive bursts
@@ -23,13 +23,13 @@ enum class Use : char {
 constexpr std::size_t UseColumns = 3 + LastEruptionType;
 using UseRow = std::array<Use, UseColumns>;
 
-/// From this strength on an eruption of type Vulcanian leaves a caldera.
+/// The lowest strength at which a Vulcanian eruption can leave a caldera.
 constexpr Single WeakestCaldera = 0.6F;
-/// Up to this strength an eruption can leave a diatreme.
+/// Up to this strength an eruption can leave a diatreme; a Strombolian one must be below it.
 constexpr Single StrongestDiatreme = 0.3F;
 
-/// The column of a type; a code that is no type has that of no type. Any tectonic kind but Faulting
-/// counts as Erosion.
+/// The column of a type; 0 for a code that is not a type. Any tectonic kind but Faulting counts as
+/// Erosion.
 std::size_t UseColumn(Integer eruptionType, Integer tectonicKind);
 
 /// The row of a field, or of the flow durations.
@@ -39,8 +39,8 @@ const UseRow& UseOfFlows();
 /// Whether any field has this letter in a column.
 bool HasLetter(std::size_t column, Use letter);
 
-/// Whether the type of a phase has the field at all, be it under a condition.
+/// Whether the type of the phase can use the field, whatever its other fields are.
 bool Offers(const PhaseRecord& phase, const PhaseField& field);
 
-/// Whether a phase uses the field, its other fields being as they are.
+/// Whether the phase uses the field, given its other fields.
 bool Uses(const PhaseRecord& phase, const PhaseField& field);

@@ -7,12 +7,13 @@
 
 namespace {
 
-constexpr int NeutralFlowLength = 6;  // leaves a duration as it is; each step is a tenth of it
+// The flow length at which durations are unscaled; each step away adds or takes a tenth.
+constexpr int NeutralFlowLength = 6;
 
-// The longest duration of a flow of neutral length.
+// The longest duration at the neutral flow length.
 int NeutralCeiling(bool hawaiian, int flow) { return hawaiian ? 1200 : 200 + 10 * flow; }
 
-// The simulator works these ceilings out in 16 bits, and so do we: no number wraps.
+// The simulator calculates these ceilings in 16 bits; a value that does not fit is a failure.
 int Fit16(int value) {
     if (value < std::numeric_limits<Integer>::min() ||
         value > std::numeric_limits<Integer>::max()) {
@@ -39,7 +40,7 @@ double LongestFlow(const PhaseRecord& phase, int flow) {
     return neutral + Fit16(steps * neutral) / 10.0;
 }
 
-// Of all flows the last has the largest product; a Hawaiian ceiling is a sum besides.
+// The last flow has the largest product; for a Hawaiian one the sum must fit too.
 FlowLengths FlowLengthsThatFit(Integer eruptionType, int last) {
     const bool hawaiian = eruptionType == EruptionType::Hawaiian;
     const int neutral = NeutralCeiling(hawaiian, last);

@@ -1,5 +1,5 @@
-// The durations that the editor makes up for lava flows, the limits that they keep, and the random
-// source behind them.
+// Random durations for new lava flows, the limits of all flow durations, and the random source. The
+// messages for a duration outside its limits are in Limits.
 #pragma once
 
 #include <functional>
@@ -7,34 +7,34 @@
 
 #include "record/PhaseRecord.h"
 
-/// Draws a Single, uniform on 0 <= r < 1. A test can put another source in its place.
+/// Returns the next random Single r, uniform on 0 <= r < 1.
 using RandomSource = std::function<Single()>;
 
-/// A generator that starts with the same sequence in every run.
+/// A source that gives the same sequence in every run.
 RandomSource NewRandomSource();
 
-/// A flow whose duration is out of the limits of its phase, and on which side.
+/// A flow whose duration is outside its limits, and on which side.
 struct BadFlow {
     int flow;
     bool tooShort;  // otherwise too long
 };
 
-/// The limits of the duration of a flow of a Hawaiian or Peléean phase; both pass. The ceiling
-/// throws std::overflow_error where it leaves 16 bits.
+/// The shortest and longest duration that pass for a flow of a Hawaiian or Peléean phase.
+/// LongestFlow throws std::overflow_error if its calculation does not fit in 16 bits.
 Single ShortestFlow(Integer eruptionType);
 double LongestFlow(const PhaseRecord& phase, int flow);
 
-/// The flow lengths for which the ceilings of flows 1 to `last` stay in 16 bits.
+/// The flow lengths for which the ceilings of flows 1 to `last` (1 to 100) fit in 16 bits.
 struct FlowLengths {
     Integer lowest;
     Integer highest;
 };
 FlowLengths FlowLengthsThatFit(Integer eruptionType, int last);
 
-/// The first of the flows of a Hawaiian or Peléean phase that is out of its limits, if any. Throws
-/// as above, and std::out_of_range for a flow above 100.
+/// The first flow of a Hawaiian or Peléean phase that is outside its limits, if any. Throws like
+/// LongestFlow, and std::out_of_range for a flow above 100.
 std::optional<BadFlow> FirstBadFlow(const PhaseRecord& phase, const FlowRow& flows);
 
-/// A new duration for flow number `flow`, from one draw r. `hawaiian` tells the rule, not the
-/// phase. The result lies within the limits above for a `flowLength` of 1 to 11.
+/// A new duration for flow number `flow`, from a random number r as above. `hawaiian` selects the
+/// rule. For a `flowLength` of 1 to 11 the result is within the limits above.
 Single NewFlowDuration(bool hawaiian, Integer flowLength, int flow, Single r);

@@ -8,7 +8,7 @@
 
 namespace {
 
-// Any choice enables Save, also one that changes nothing.
+// Any choice enables Save, even one that changes nothing.
 template <class Choice>
 void Choose(RecordEdit& form, Choice choice) {
     if (form.FormFilling) {
@@ -41,7 +41,7 @@ void chkCald_Click(RecordEdit& form) {
         form.cmbStyle.SetText(NoStyleText);
         phase.calderaFlag = Flag(form.chkCald);
         if (phase.calderaFlag == 1 && Offers(phase, FieldOf(&PhaseRecord::calderaStyle))) {
-            OpenCaldera(form);
+            EnableCalderaFields(form);
         } else {
             form.cmbStyle.SetEnabled(false);
             form.labSlide4.SetEnabled(false);
@@ -69,7 +69,7 @@ void cmbDown_Click(RecordEdit& form) {
 
 void cmbFlow_Click(RecordEdit& form) {
     Choose(form, [&form](const PhaseRecord& phase) {
-        if (const int flow = FindFlow(form.cmbFlow.Text(), FlowsWithinTable(phase))) {
+        if (const int flow = FindFlow(form.cmbFlow.Text(), CappedFlowCount(phase))) {
             form.txtLava.SetText(form.TextOf(form.CurrentFlows()[flow], Format::OneDecimal));
         }
     });

@@ -8,7 +8,7 @@
 
 namespace {
 
-void TakeType(RecordEdit& form) {
+void StoreType(RecordEdit& form) {
     if (const TypeEntry* entry = FindType(form.cmbType.Text())) {
         PhaseRecord& phase = form.CurrentPhase();
         phase.eruptionType = entry->eruptionType;
@@ -17,7 +17,7 @@ void TakeType(RecordEdit& form) {
     }
 }
 
-// Each box stores its field; those of the mass flux and the bursts turn 0 into 1.
+// Setting a box stores its field; the boxes of mass flux and bursts turn 0 into 1.
 void ResetEruption(RecordEdit& form) {
     using E = RecordEdit;
     for (const BoxMember box : {&E::txtLoc, &E::txtStr, &E::txtWind, &E::txtPart, &E::txtBurst,
@@ -26,15 +26,15 @@ void ResetEruption(RecordEdit& form) {
     }
 }
 
-// A phase that has its loaded type again gets its loaded durations back; any other gets new ones.
+// Restores the loaded durations if the phase has its loaded type again; otherwise draws new ones.
 void PrepareFlows(RecordEdit& form) {
     const PhaseRecord& phase = form.CurrentPhase();
     if (form.LoadedPhases[form.CurPhase].eruptionType == form.CurType) {
-        CopyFlows(form.LoadedFlows[form.CurPhase], form.CurrentFlows(), FlowsWithinTable(phase));
+        CopyFlows(form.LoadedFlows[form.CurPhase], form.CurrentFlows(), CappedFlowCount(phase));
         return;
     }
     const bool hawaiian = form.CurType == EruptionType::Hawaiian;
-    for (int i = 1; i <= FlowsWithinTable(phase); ++i) {
+    for (int i = 1; i <= CappedFlowCount(phase); ++i) {
         form.CurrentFlows()[i] = NewFlowDuration(hawaiian, phase.flowLength, i, form.random());
     }
 }
@@ -43,7 +43,7 @@ void PrepareFlows(RecordEdit& form) {
 
 void cmbType_Click(RecordEdit& form) {
     form.Command2.SetEnabled(true);
-    TakeType(form);
+    StoreType(form);
     const PhaseRecord& phase = form.CurrentPhase();
     if (phase.eruptionType == EruptionType::Tectonic) {
         ResetEruption(form);

@@ -1,8 +1,8 @@
-// Choosing the eruption type of the phase on show.
+// The handler for choosing the eruption type of the current phase. The types are in EruptionTypes.
 #pragma once
 
 struct RecordEdit;
 
-/// Gives the phase the type that the box names, prepares what the type needs, and shows the phase
-/// again. A text that names no type keeps the phase's type; all the rest is done.
+/// Sets the type named in the box, prepares the fields and flows that the type needs, and shows the
+/// phase again. A text that names no type leaves the type as it is; everything else is still done.
 void cmbType_Click(RecordEdit& form);

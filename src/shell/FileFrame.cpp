@@ -8,8 +8,8 @@ namespace {
 
 constexpr int EditorTopic = 94;
 
-// A record without phases has nothing to save, so a change of its settings is no reason to.
-void MarkChangedIfPhases(RecordEdit& form) {
+// A record without phases has nothing to save.
+void EnableSaveIfPhases(RecordEdit& form) {
     if (form.EditPhaseCount > 0) {
         form.Command2.SetEnabled(true);
     }
@@ -17,7 +17,7 @@ void MarkChangedIfPhases(RecordEdit& form) {
 
 void ChooseScale(RecordEdit& form, Integer scale) {
     form.RecordScale = scale;
-    MarkChangedIfPhases(form);
+    EnableSaveIfPhases(form);
 }
 
 bool IsNone(std::string text) {
@@ -48,8 +48,8 @@ void cmdChange_Click(RecordEdit& form) {
     }
     form.EditStratFile = form.CD1.FileName;
     form.txtTopFile.SetText(form.ShownPath(form.EditStratFile));
-    form.EditStratFile = form.CD1.FileName;  // the box has just stored the text on show
-    MarkChangedIfPhases(form);
+    form.EditStratFile = form.CD1.FileName;  // the box has just stored the shortened text
+    EnableSaveIfPhases(form);
 }
 
 void txtTopFile_Change(RecordEdit& form) {
@@ -59,7 +59,7 @@ void txtTopFile_Change(RecordEdit& form) {
     form.EditStratFile = form.txtTopFile.Text();
 }
 
-void txtTopFile_KeyPress(RecordEdit& form) { MarkChangedIfPhases(form); }
+void txtTopFile_KeyPress(RecordEdit& form) { EnableSaveIfPhases(form); }
 
 void txtTopFile_MouseMove(RecordEdit& form) {
     form.txtTopFile.SetToolTipText(form.txtTopFile.Text() == NoFileText

@@ -1,5 +1,5 @@
-// What belongs to the whole record and not to a phase: the stratigraphic file and the map scale;
-// and the help that the form gives. The record file itself is opened and saved elsewhere.
+// The handlers for what concerns the whole record: the stratigraphic file and the map scale; and
+// for the help. Opening and saving the record file is in OpenSave.
 #pragma once
 
 struct RecordEdit;
@@ -7,17 +7,18 @@ struct RecordEdit;
 /// Attaches the stratigraphic file that the user chooses; cancelling changes nothing.
 void cmdChange_Click(RecordEdit& form);
 
-/// What stands in the box is the reference; an empty box or the word none removes it.
+/// Stores the text of the box as the reference; an empty text or the word none, in any case,
+/// becomes NoFileText.
 void txtTopFile_Change(RecordEdit& form);
 
 /// Any key in the box enables Save, if there are phases.
 void txtTopFile_KeyPress(RecordEdit& form);
 
-/// The two tips that depend on what is on show.
+/// Set the two tips that depend on what is shown.
 void txtTopFile_MouseMove(RecordEdit& form);
 void labRecfile_MouseMove(RecordEdit& form);
 
-/// The scale of the map, for all phases; enables Save if there are any.
+/// Set the scale of the map for all phases, and enable Save if there are any.
 void optLarge_Click(RecordEdit& form);
 void optNormal_Click(RecordEdit& form);
 void optSmall_Click(RecordEdit& form);

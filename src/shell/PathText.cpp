@@ -14,7 +14,7 @@ std::size_t SequenceLength(std::string_view text) {
             return 1;
         }
     }
-    // Overlong forms, surrogates and what lies beyond Unicode are no sequences either.
+    // Overlong forms, surrogates and code points above U+10FFFF are invalid too.
     const bool valid = !(first == 0xE0 && byte(1) < 0xA0) && !(first == 0xED && byte(1) > 0x9F) &&
                        !(first == 0xF0 && byte(1) < 0x90) && !(first == 0xF4 && byte(1) > 0x8F);
     return valid ? length : 1;

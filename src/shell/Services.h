@@ -29,15 +29,15 @@ public:
 };
 
 /// Opens or closes the help viewer as `HelpFile`, `HelpContext` and `HelpCommand` say. A help
-/// file that cannot be shown is told in the viewer and nowhere else.
+/// file that cannot be shown is reported only in the viewer.
 class HelpViewer {
 public:
     virtual ~HelpViewer() = default;
     virtual void ShowHelp(const CommonDialog& dialog) = 0;
 };
 
-/// Named texts in sections, filled by the simulator's installation and only read here. What is not
-/// there reads as `fallback`.
+/// Named texts in sections, written when the simulator is installed and only read here. Returns
+/// `fallback` for a text that does not exist.
 class SettingsStore {
 public:
     virtual ~SettingsStore() = default;
@@ -45,14 +45,14 @@ public:
                              const std::string& fallback) = 0;
 };
 
-/// Gives the text under which a path is shown: some text for any text. The flag is always 0.
+/// Returns the text to show for a path, which may be any bytes. `flag` is always 0.
 class PathHelper {
 public:
     virtual ~PathHelper() = default;
     virtual std::string DisplayPath(const std::string& path, int flag) = 0;
 };
 
-/// Brings what was written under a name from the system's memory to the device.
+/// Moves written files from the memory of the system to the device.
 class Device {
 public:
     virtual ~Device() = default;
@@ -61,13 +61,14 @@ public:
     virtual bool Flush(const std::string& path) = 0;
 };
 
-/// Sizes and places in twips, 1440 to the inch at the form's own scale.
+/// A size in twips, 1440 to the inch at the form's scale.
 struct Extent {
     int width = 0;
     int height = 0;
 };
 
-/// The window that carries the form. `Unload` ends in the form's own Unload event.
+/// The window that shows the form. `Move` places its top left corner, in twips from that of the
+/// screen. `Unload` closes it, which raises the form's Unload event.
 class Window {
 public:
     virtual ~Window() = default;
@@ -79,8 +80,8 @@ public:
     virtual void Unload() = 0;
 };
 
-/// The platform as the form sees it. All of it is in place before the form is loaded and stays
-/// until it is unloaded. The program's folder, which the help file is in, has no slash at its end.
+/// The services of a form. All must be set before the form is loaded and stay valid until it is
+/// unloaded. `programFolder`, which contains the help file, has no slash at its end.
 struct Services {
     MessageBoxes* messages = nullptr;
     FileDialogs* dialogs = nullptr;

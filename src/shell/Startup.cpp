@@ -9,13 +9,13 @@
 
 namespace {
 
-// What the platform fails to give is skipped, and the next step runs.
+// Runs a step and ignores its failure.
 template <class Step>
 void Try(Step step) {
     try {
         step();
     } catch (const std::exception&) {
-        // An editor without its settings, or in another place, is still an editor.
+        // The editor is usable without its settings and at any place on the screen.
     }
 }
 

@@ -1,8 +1,8 @@
-// Loading the form. What unloads it again stands in Closing.
+// Loads the form. Unloading it is in Closing.
 #pragma once
 
 struct RecordEdit;
 
-/// Brings the form up on a new, empty record. No file is opened. What the platform fails to
-/// give is done without, and nothing is told.
+/// Shows the form with a new, empty record. No file is opened. A service that fails is skipped
+/// without a message.
 void Form_Load(RecordEdit& form);

@@ -103,7 +103,7 @@ ComboBoxView::ComboBoxView(const ViewParts& parts) : ViewOf(parts) {
     pale.setColor(QPalette::HighlightedText, Qt::white);
     widget.view()->setPalette(pale);
     widget.lineEdit()->setPalette(pale);
-    if (Row().look == Look::OwnPointer) {
+    if (Row().look == Look::CustomPointer) {
         const QCursor hand(QPixmap(":/window/down-32.xpm"), 12, 1);
         widget.setCursor(hand);
         widget.lineEdit()->setCursor(hand);  // otherwise it would show the text cursor

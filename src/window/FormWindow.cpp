@@ -118,15 +118,15 @@ void FormWindow::ChainTabs() {
 
 // What a screen reader says of controls without a caption or tip of their own.
 void FormWindow::NameViews() {
-    for (const NamedText& row : LabelsOf()) {
+    for (const NamedText& row : ControlLabels()) {
         if (auto* const label = qobject_cast<QLabel*>(&Find(row.text)->Widget())) {
             label->setBuddy(&Find(row.control)->Widget());
         }
     }
-    for (const NamedText& row : SpokenNames()) {
+    for (const NamedText& row : AccessibleNames()) {
         SetSpokenName(Find(row.control)->Widget(), ToScreen(row.text));
     }
-    for (const NamedText& row : SpokenDescriptions()) {
+    for (const NamedText& row : AccessibleDescriptions()) {
         Find(row.control)->Widget().setAccessibleDescription(ToScreen(row.text));
     }
 }
@@ -220,7 +220,7 @@ bool FormWindow::focusNextPrevChild(bool next) {
 // A box where the next key does no harm, or the Help button, which is always enabled.
 View& FormWindow::ViewToFocus() const {
     for (const Control* box : {mirror.LastBox(), static_cast<const Control*>(&form.cmbPhase)}) {
-        if (box != nullptr && box->OpenToUser()) {
+        if (box != nullptr && box->AcceptsUserActions()) {
             return *byControl.at(box);
         }
     }

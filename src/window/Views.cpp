@@ -167,7 +167,7 @@ class CommandButtonView : public ViewOf<CommandButton, QPushButton> {
 public:
     explicit CommandButtonView(const ViewParts& parts) : ViewOf(parts) {
         widget.setAutoDefault(true);  // Enter presses the button that has the focus
-        if (Row().look == Look::OpenPicture) {
+        if (Row().look == Look::OpenIcon) {
             ShowIcon();
         }
         connect(&widget, &QPushButton::clicked, this,
