@@ -1,5 +1,5 @@
-// The widgets of the form in their places and nothing else: no control, no rule, no event. What the
-// window is measured against.
+// The widgets of the form in their places and nothing else: no control, no rule, no event. The
+// reference for the benchmarks of the window.
 #pragma once
 
 #include <QComboBox>
@@ -9,7 +9,7 @@
 
 class BareForm : public QWidget {
 public:
-    /// `scale` in pixels to the twip.
+    /// Makes the widgets of the catalogue; `scale` in pixels per twip.
     explicit BareForm(double scale);
 
     std::vector<QLineEdit*> boxes;

@@ -11,13 +11,13 @@
 
 namespace {
 
-// A folder with copies of one record, which goes with the object.
+// A folder with copies of one record, deleted with the object.
 class FolderOfRecords {
 public:
     FolderOfRecords(int count, Integer phases) {
         std::string name = std::filesystem::temp_directory_path() / "tephrexXXXXXX";
         if (mkdtemp(name.data()) == nullptr) {
-            throw std::runtime_error("No room for temporary files");
+            throw std::runtime_error("Cannot make a temporary folder");
         }
         path = name;
         const std::string bytes = RecordOnDisk(phases).Bytes();
@@ -39,8 +39,8 @@ Usage RunSilently(Command command) {
     return RunToEnd(command);
 }
 
-constexpr int Many = 2000;
-constexpr int SmallOnes = 10000;
+constexpr int LargeRecords = 2000;
+constexpr int SmallRecords = 10000;
 
 void CheckFolder(benchmark::State& state, const FolderOfRecords& folder, int jobs) {
     static const ReportForm quiet{.quiet = true};
@@ -51,9 +51,9 @@ void CheckFolder(benchmark::State& state, const FolderOfRecords& folder, int job
     }
 }
 
-// The first, for a program that is started has at least the peak memory of this one.
+// Must run first: a program's peak memory is at least that of the program that starts it.
 void Memory(benchmark::State& state) {
-    const FolderOfRecords folder(Many, MaxPhases);
+    const FolderOfRecords folder(LargeRecords, MaxPhases);
     const Command check{TEPHREX_CHECK, "--quiet", "--jobs", "2", folder.path};
     Compare(
         state, {24, 0, Unit::Megabytes},
@@ -65,7 +65,7 @@ void Memory(benchmark::State& state) {
 BENCHMARK(Memory)->Name("Peak memory of checking 2000 such files")->UseManualTime();
 
 void AgainstReader(benchmark::State& state) {
-    const FolderOfRecords folder(Many, MaxPhases);
+    const FolderOfRecords folder(LargeRecords, MaxPhases);
     const auto record = std::make_unique<EditorState>();
     Compare(
         state, {1.25},
@@ -81,7 +81,7 @@ void AgainstReader(benchmark::State& state) {
 BENCHMARK(AgainstReader)->Name("Check 2000 such files, against reading them")->UseManualTime();
 
 void TwoJobs(benchmark::State& state) {
-    const FolderOfRecords folder(Many, MaxPhases);
+    const FolderOfRecords folder(LargeRecords, MaxPhases);
     const auto seconds = [&](int jobs) {
         using Clock = std::chrono::steady_clock;
         const Clock::time_point start = Clock::now();
@@ -95,7 +95,7 @@ void TwoJobs(benchmark::State& state) {
 BENCHMARK(TwoJobs)->Name("Check them with two jobs, against one")->UseManualTime();
 
 void AgainstCat(benchmark::State& state) {
-    const FolderOfRecords folder(SmallOnes, 5);
+    const FolderOfRecords folder(SmallRecords, 5);
     const auto run = [&folder](Command command) {
         command.insert(command.end(), folder.names.begin(), folder.names.end());
         return RunSilently(std::move(command)).processorSeconds;

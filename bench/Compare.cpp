@@ -17,7 +17,7 @@ double Median(std::vector<double> values) {
     return *middle;
 }
 
-std::string Print(const char* format, double value) {
+std::string Formatted(const char* format, double value) {
     std::array<char, 32> text{};
     std::snprintf(text.data(), text.size(), format, value);
     return text.data();
@@ -25,12 +25,13 @@ std::string Print(const char* format, double value) {
 
 std::string Duration(double seconds) {
     if (seconds >= 1e-3) {
-        return Print("%.2f ms", seconds * 1e3);
+        return Formatted("%.2f ms", seconds * 1e3);
     }
-    return seconds >= 1e-6 ? Print("%.2f us", seconds * 1e6) : Print("%.0f ns", seconds * 1e9);
+    return seconds >= 1e-6 ? Formatted("%.2f us", seconds * 1e6)
+                           : Formatted("%.0f ns", seconds * 1e9);
 }
 
-/// Why a run failed, null if it did not. The library's later versions name it otherwise.
+/// Why a run failed; null if it did not. Later versions of the library have other members for it.
 template <class Run>
 const std::string* FailureOf(const Run& run) {
     if constexpr (requires { run.skip_message; }) {
@@ -50,7 +51,7 @@ public:
                 failed = true;
                 std::printf("%s\t%s\n", run.run_name.function_name.c_str(), failure->c_str());
             } else {
-                Row(run);
+                PrintRow(run);
             }
             std::fflush(stdout);
         }
@@ -59,20 +60,21 @@ public:
     bool failed = false;
 
 private:
-    static void Row(const Run& run) {
+    static void PrintRow(const Run& run) {
         const auto counter = [&run](const char* name) { return run.counters.at(name).value; };
         const bool memory = counter("memory") != 0;
         const auto show = [memory](double value) {
-            return memory ? Print("%.1f MB", value) : Duration(value);
+            return memory ? Formatted("%.1f MB", value) : Duration(value);
         };
         const double result = counter("result");
         const double most = counter("most");
         const double least = counter("least");
-        const std::string goal = (least > 0 ? Print("%g to ", least) : std::string("at most ")) +
-                                 Print(memory ? "%g MB more" : "%g", most);
+        const std::string goal =
+            (least > 0 ? Formatted("%g to ", least) : std::string("at most ")) +
+            Formatted(memory ? "%g MB more" : "%g", most);
         std::printf("%s\t%s\t%s\t%s\t%s\t%s\n", run.run_name.function_name.c_str(),
                     show(counter("ours")).c_str(), show(counter("reference")).c_str(),
-                    Print(memory ? "%+.1f MB" : "%.2f", result).c_str(), goal.c_str(),
+                    Formatted(memory ? "%+.1f MB" : "%.2f", result).c_str(), goal.c_str(),
                     result <= most && (result >= least || memory) ? "met" : "NOT MET");
     }
 };
@@ -101,7 +103,7 @@ void Compare(benchmark::State& state, Goal goal, const Turn& reference, const Tu
             return;
         }
         results.push_back(memory ? own.back() - references.back() : own.back() / references.back());
-        // What is prepared before a work counts for the length of the run, but for nothing else.
+        // Preparations count towards the length of the run, but towards nothing else.
         state.SetIterationTime(std::chrono::duration<double>(Clock::now() - start).count());
     }
     const auto typical = [&goal](const std::vector<double>& values) {

@@ -1,4 +1,4 @@
-// The figures of the core: everything that the editor does but the window.
+// The figures of the core: everything that the editor does except for the window.
 
 #include <cstring>
 
@@ -124,7 +124,7 @@ void PressBurst(benchmark::State& state) {
 }
 BENCHMARK(PressBurst)->Name("A key press in txtBurst, 100 flows")->UseManualTime();
 
-// The reference moves rows that lie side by side and shows the new phase that is in place already.
+// The reference moves contiguous rows and shows a phase that is already in place.
 void Add(benchmark::State& state) {
     const RecordOnDisk file(MaxPhases - 1);
     const auto quiet = std::make_unique<QuietForm>();
@@ -152,10 +152,11 @@ void Add(benchmark::State& state) {
             return Timed(1, [&] { cmdAdd_Click(quiet->form); });
         });
 }
-BENCHMARK(Add)->Name("Add behind phase 1 of 499")->UseManualTime();
+BENCHMARK(Add)->Name("Add after phase 1 of 499")->UseManualTime();
 
-// Growth: as many small records as make up the largest one, against the largest one. A time a
-// phase within 20 percent is linear; against very small records the files' own costs count too.
+// Growth: the largest record against as many small ones as have its phases together. Times per
+// phase within 20 percent of each other are linear; very small records pay the fixed costs of files
+// too.
 template <class Work>
 void Grow(benchmark::State& state, Integer few, Goal goal, Work work) {
     const RecordOnDisk small(few);
@@ -170,7 +171,7 @@ void Grow(benchmark::State& state, Integer few, Goal goal, Work work) {
 }
 
 constexpr Goal Linear{1.2, 0.8};
-constexpr Goal NoFaster{1.2};
+constexpr Goal AtMostLinear{1.2};
 
 void ReadOne(const RecordOnDisk& file, EditorState& record) { ReadRecordFile(file.Path(), record); }
 void WriteOne(const RecordOnDisk& file, EditorState& record) {
@@ -189,13 +190,13 @@ BENCHMARK_CAPTURE(Grow, write, 50, Linear, WriteOne)
 BENCHMARK_CAPTURE(Grow, judge, 50, Linear, JudgeOne)
     ->Name("Judge 500 phases, against 10 times 50")
     ->UseManualTime();
-BENCHMARK_CAPTURE(Grow, read5, 5, NoFaster, ReadOne)
+BENCHMARK_CAPTURE(Grow, read5, 5, AtMostLinear, ReadOne)
     ->Name("Read 500 phases, against 100 times 5")
     ->UseManualTime();
-BENCHMARK_CAPTURE(Grow, write5, 5, NoFaster, WriteOne)
+BENCHMARK_CAPTURE(Grow, write5, 5, AtMostLinear, WriteOne)
     ->Name("Write 500 phases, against 100 times 5")
     ->UseManualTime();
-BENCHMARK_CAPTURE(Grow, judge5, 5, NoFaster, JudgeOne)
+BENCHMARK_CAPTURE(Grow, judge5, 5, AtMostLinear, JudgeOne)
     ->Name("Judge 500 phases, against 100 times 5")
     ->UseManualTime();
 

@@ -1,5 +1,4 @@
-// The figures of tephrexdraw: the largest picture, and how soon the program is done with a small
-// one.
+// The figures of tephrexdraw: drawing the largest record, and the whole program with a small one.
 
 #include <QGuiApplication>
 #include <fstream>

@@ -1,5 +1,5 @@
 // Linked into a program with a window, this ends the program as soon as the window is painted and
-// nothing is left to do. The program itself knows nothing of it.
+// nothing is left to do. The program's own code needs no change.
 
 #include <unistd.h>
 
@@ -26,7 +26,7 @@ public:
     }
 
 private:
-    // While the form is loading there is no event loop yet, though events run.
+    // While the form is loading, events are processed but the event loop does not run yet.
     void CountRound() {
         constexpr int enough = 3;
         if (thread()->loopLevel() > 0 && ++quietRounds == enough) {

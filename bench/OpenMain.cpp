@@ -1,4 +1,4 @@
-// The editor, with the record open that its command line names, if it names one.
+// The editor, which opens the record named on its command line, if there is one.
 
 #include <QApplication>
 

@@ -1,5 +1,5 @@
-// The references of the core's benchmarks: the same work done plainly, with the standard library
-// and without any rule of the editor.
+// The references of the core's benchmarks: the same tasks done with the standard library and
+// without any rule of the editor.
 #pragma once
 
 #include <array>
@@ -9,13 +9,15 @@
 
 #include "record/EditorState.h"
 
-/// One pass over the bytes of a record, split at commas and line ends, into the loaded copy.
+/// One pass over the bytes of a record, split at commas and line ends, into the loaded copy. The
+/// bytes must be as the editor writes them.
 void ReadPlainly(std::string_view bytes, EditorState& state);
 
-/// The loaded copy as text, built in `buffer`, which has to be large enough, and written at once.
+/// The loaded copy as text, built in `buffer`, which must be large enough, and written in one call.
+/// Throws if the file cannot be opened.
 void WritePlainly(const std::string& path, const EditorState& state, std::vector<char>& buffer);
 
-/// A number in a box, with so many decimals.
+/// A number in a box, shown with `decimals` decimals.
 struct Shown {
     Single number;
     int decimals;
@@ -29,8 +31,8 @@ ShownPhase NumbersOf(const PhaseRecord& phase);
 Single ParsePlainly(std::string_view text);
 std::string FormatPlainly(Shown shown);
 
-/// Writes the numbers into the texts and reads them back.
+/// Formats the numbers into the texts and parses them back.
 void ShowPlainly(ShownPhase& numbers, std::array<std::string, 20>& texts);
 
-/// The list of 100 flows anew.
+/// Builds the list of 100 flows again.
 void ListFlowsPlainly(std::vector<std::string>& entries);

@@ -18,7 +18,7 @@ double Seconds(const timeval& time) {
 pid_t Start(const Command& command) {
     std::vector<char*> arguments;
     for (const std::string& argument : command) {
-        arguments.push_back(const_cast<char*>(argument.c_str()));  // only read, says POSIX
+        arguments.push_back(const_cast<char*>(argument.c_str()));  // POSIX: only read
     }
     arguments.push_back(nullptr);
     pid_t process = 0;

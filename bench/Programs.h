@@ -1,4 +1,4 @@
-// Programs run from outside, and what a run has cost.
+// Running other programs, and what a run has cost.
 #pragma once
 
 #include <sys/types.h>
@@ -10,11 +10,11 @@ using Command = std::vector<std::string>;
 
 struct Usage {
     double processorSeconds;
-    double peakMegabytes;  // of resident memory; at least that of the program that starts it
+    double peakMegabytes;  // of resident memory; never below that of the program that started it
 };
 
-/// Starts a program. Throws if that fails.
+/// Starts a program, found by PATH, and returns its process. Throws if that fails.
 pid_t Start(const Command& command);
 
-/// Runs a program until it ends by itself. Throws if it fails.
+/// Runs a program until it ends by itself. Throws if its exit status is not 0.
 Usage RunToEnd(const Command& command);

@@ -65,7 +65,7 @@ RecordOnDisk::RecordOnDisk(Integer phases, int shift) {
     std::string name = std::filesystem::temp_directory_path() / "tephrexXXXXXX";
     const int file = mkstemp(name.data());
     if (file < 0) {
-        throw std::runtime_error("No room for temporary files");
+        throw std::runtime_error("Cannot make a temporary file");
     }
     close(file);
     path = name;

@@ -7,12 +7,12 @@
 
 #include "form/RecordEdit.h"
 
-/// A record of that many Hawaiian phases with 100 flows each. It passes every check, and no two
-/// neighbouring phases show the same number in any box but that of the bursts. Records that differ
-/// in `shift` have other phases at the same places.
+/// A record of that many Hawaiian phases, 0 to 500, with 100 flows each. It passes every check, and
+/// neighbouring phases differ in every box but that of the bursts. Records with different `shift`
+/// have different phases at the same places.
 std::unique_ptr<EditorState> RecordOf(Integer phases, int shift = 0);
 
-/// The same as a file, which goes with the object.
+/// The same record as a file, deleted with the object. Throws if it cannot be written.
 class RecordOnDisk {
 public:
     explicit RecordOnDisk(Integer phases, int shift = 0);
@@ -27,7 +27,7 @@ private:
     std::string path;
 };
 
-/// A platform without a screen; its open dialog gives the name `answer`.
+/// A platform without a screen; its open dialog answers with the name `answer`.
 class QuietPlatform : public MessageBoxes,
                       public FileDialogs,
                       public HelpViewer,
@@ -36,7 +36,7 @@ class QuietPlatform : public MessageBoxes,
 public:
     std::string answer;
 
-    /// Loads the form on this platform, in that window.
+    /// Wires and loads the form on this platform, in that window.
     void Load(RecordEdit& form, Window& window);
 
     void Show(const std::string&, MessageIcon, std::string_view) override {}

@@ -13,12 +13,11 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// Long enough for a program that reads a file between two changes.
-constexpr auto StandsStill = 1s;
-constexpr auto ComesUp = 30s;
-constexpr auto WindowIsGone = 200ms;
+constexpr auto NoChangeFor = 1s;  // long enough for a program that reads a file between two changes
+constexpr auto FirstChangeWithin = 30s;
+constexpr auto LastWindowGoneWithin = 200ms;
 
-// An insertion point blinks for ever; anything narrower than this is taken for one.
+// An insertion point blinks for ever: narrower changes, in pixels, do not count.
 constexpr int NarrowestChange = 16;
 
 struct Free {
@@ -31,7 +30,7 @@ Screen::Screen() : connection(xcb_connect(nullptr, nullptr)) {
     const xcb_query_extension_reply_t* const extension =
         xcb_get_extension_data(connection, &xcb_damage_id);
     if (extension == nullptr || extension->present == 0) {
-        throw std::runtime_error("No X display, or one that does not tell of its changes");
+        throw std::runtime_error("No X display, or one without the damage extension");
     }
     damageEvent = static_cast<std::uint8_t>(extension->first_event + XCB_DAMAGE_NOTIFY);
     const std::unique_ptr<xcb_damage_query_version_reply_t, Free> version(
@@ -44,10 +43,10 @@ Screen::Screen() : connection(xcb_connect(nullptr, nullptr)) {
 }
 
 double Screen::SecondsToLastChange(const Command& command) {
-    LastChange(WindowIsGone, WindowIsGone);
+    LastChange(LastWindowGoneWithin, LastWindowGoneWithin);
     const Clock::time_point start = Clock::now();
     const pid_t process = Start(command);
-    const auto last = LastChange(ComesUp, StandsStill);
+    const auto last = LastChange(FirstChangeWithin, NoChangeFor);
     kill(process, SIGKILL);
     waitpid(process, nullptr, 0);
     if (!last) {

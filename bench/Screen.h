@@ -1,4 +1,4 @@
-// Programs run from outside: how long until the screen stands still.
+// How long a program takes until the screen no longer changes.
 #pragma once
 
 #include <xcb/xcb.h>
@@ -8,7 +8,7 @@
 
 #include "Programs.h"
 
-/// The X display that the environment names.
+/// The X display that the environment names. Throws without one, or without its damage extension.
 class Screen {
 public:
     Screen();
@@ -17,14 +17,14 @@ public:
     Screen& operator=(const Screen&) = delete;
 
     /// Starts a program, waits until nothing on the screen changes any more, ends the program, and
-    /// tells the seconds from its start to the last change.
+    /// returns the seconds from its start to the last change. Throws if nothing changes at all.
     double SecondsToLastChange(const Command& command);
 
 private:
     using Clock = std::chrono::steady_clock;
 
-    /// When the last change came before `quiet` went by without one; nothing if none came within
-    /// `first`.
+    /// The time of the last change that is followed by `quiet` without one; nothing if there is
+    /// none within `first`.
     std::optional<Clock::time_point> LastChange(Clock::duration first, Clock::duration quiet);
     bool TakeChanges();
 

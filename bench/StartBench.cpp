@@ -1,6 +1,6 @@
-// The figures of whole programs: how soon they stand on the screen and what memory they take. It
-// wants an X display of its own. It knows no toolkit, for a program that is started inherits the
-// peak memory of the one that starts it.
+// The figures of whole programs: how soon they are on the screen and how much memory they take.
+// Needs an X display that nothing else uses. Does not link the toolkit: a program's peak memory is
+// at least that of the program that starts it.
 
 #include <cstdlib>
 

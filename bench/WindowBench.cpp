@@ -1,5 +1,5 @@
-// The figures of the window that can be taken in one program. Events always run to the end: until
-// the toolkit has nothing left to do, all painting done.
+// The figures of the window that can be taken within one program. Each turn runs all events, until
+// everything is painted and the toolkit has nothing left to do.
 
 #include <QApplication>
 #include <QEventLoop>
@@ -73,7 +73,7 @@ void Open(benchmark::State& state) {
     const RecordOnDisk large(MaxPhases);
     const auto quiet = std::make_unique<QuietForm>();
     const auto editor = std::make_unique<WindowForm>();
-    QWidget* const page = editor->window.findChild<QScrollArea*>()->widget();  // hides the window
+    QWidget* const page = editor->window.findChild<QScrollArea*>()->widget();  // covers the window
     Compare(
         state, {1.3},
         [&] {

@@ -1,5 +1,5 @@
-// The editor in its window, as the program has it, but for the file dialog: that gives a fixed name
-// without being shown.
+// The editor in its window, as in the program, but with a file dialog that answers with a fixed
+// name without being shown.
 #pragma once
 
 #include <QString>

@@ -1,8 +1,8 @@
-# Run while installing: fills the folders of the installation into the settings and the manual,
-# and compresses what is read compressed.
+# Run while installing: fills the folders of the installation into the settings and the manuals,
+# and compresses the manuals and the change log.
 
-# full(RESULT FOLDER): a folder below the prefix, or one of its own. What belongs to /usr has its
-# settings in /etc.
+# full(RESULT FOLDER): the absolute path of a folder, which may be relative to the prefix. With the
+# prefix /usr the settings are in /etc.
 function(full result folder)
   cmake_path(SET prefix NORMALIZE "${CMAKE_INSTALL_PREFIX}/.")
   if(folder STREQUAL "etc" AND prefix STREQUAL "/usr/")
@@ -12,7 +12,7 @@ function(full result folder)
   set(${result} "${folder}" PARENT_SCOPE)
 endfunction()
 
-# compress(SOURCE RESULT): with no time in it, so that the same text gives the same file.
+# compress(SOURCE RESULT): without a time stamp, so that the same text gives the same file.
 function(compress source result)
   execute_process(COMMAND gzip -9nc "${source}" OUTPUT_FILE "${result}" COMMAND_ERROR_IS_FATAL ANY)
 endfunction()
@@ -36,5 +36,5 @@ endforeach()
 file(INSTALL "${filled}/changelog.gz" DESTINATION "${datadir}/doc/tephrexedit")
 
 if(NOT sysconfdir STREQUAL "/etc")
-  message(STATUS "The settings are found when XDG_CONFIG_DIRS names ${sysconfdir}/xdg")
+  message(STATUS "For the settings to be found, XDG_CONFIG_DIRS must name ${sysconfdir}/xdg")
 endif()

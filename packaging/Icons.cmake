@@ -1,5 +1,5 @@
-# The icons of the program and of its files, in every size that desktops ask for. They are made
-# from the drawings while building; nothing of it is kept with the sources.
+# The icons of the program and of its files, in every size that desktops ask for. The build makes
+# them from the drawings; none are kept with the sources.
 
 include(${CMAKE_CURRENT_LIST_DIR}/PixelArt.cmake)
 set(icon_sizes 16 22 24 32 48 64 96 128 192 256 512)
@@ -12,7 +12,7 @@ install(FILES ${icon_sources}/application-x-tephrex-record.svg
 
 find_program(RSVG_CONVERT rsvg-convert)
 if(NOT RSVG_CONVERT)
-  message(STATUS "rsvg-convert was not found: of the icons only the drawings are installed")
+  message(STATUS "rsvg-convert was not found: only the drawings of the icons are installed")
   foreach(size 16 32)
     install(FILES ${icon_sources}/form-${size}.xpm
       DESTINATION ${icon_folder}/${size}x${size}/apps RENAME tephrexedit.xpm)
@@ -20,7 +20,7 @@ if(NOT RSVG_CONVERT)
   return()
 endif()
 
-# add_icon(NAME KIND SIZE DRAWING): makes one picture and installs it.
+# add_icon(NAME KIND SIZE DRAWING): makes one icon and installs it.
 function(add_icon name kind size drawing)
   set(folder ${PROJECT_BINARY_DIR}/icons/${size}x${size}/${kind})
   add_custom_command(OUTPUT ${folder}/${name}.png
@@ -34,7 +34,7 @@ endfunction()
 foreach(size IN LISTS icon_sizes)
   add_icon(application-x-tephrex-record mimetypes ${size}
     ${icon_sources}/application-x-tephrex-record.svg)
-  # Small sizes were drawn pixel by pixel: a drawing made smaller is a blur there.
+  # Small sizes were drawn pixel by pixel: a scaled drawing would be blurred.
   set(pixels ${icon_sources}/form-${size}.xpm)
   set(drawing ${icon_sources}/tephrexedit.svg)
   if(EXISTS ${pixels})

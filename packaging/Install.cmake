@@ -1,5 +1,5 @@
-# Where everything goes on `cmake --install`, and the package that cpack makes of it.
-# Wants the target tephrexedit: without the window there is nothing to install.
+# Where `cmake --install` puts everything, and the package that cpack makes of it.
+# Needs the target tephrexedit: without the window nothing is installed.
 
 if(NOT TARGET tephrexedit)
   return()
@@ -13,15 +13,15 @@ include(${CMAKE_CURRENT_LIST_DIR}/Package.cmake)
 function(install_program program folder)
   install(TARGETS ${program} RUNTIME DESTINATION ${folder})
   install(CODE "
-    if(CMAKE_INSTALL_DO_STRIP)  # which leaves the compiler's name where it is
+    if(CMAKE_INSTALL_DO_STRIP)  # which leaves the compiler's name in the file
       execute_process(COMMAND \"${CMAKE_STRIP}\" --remove-section=.comment
         \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${folder}/${program}\" COMMAND_ERROR_IS_FATAL ANY)
     endif()")
   set_property(GLOBAL APPEND PROPERTY TEPHREX_PROGRAMS ${program})
 endfunction()
 
-# The editor and its help file stand in a folder of their own, whatever the platform calls the
-# folder of its libraries; what people start is a link to it.
+# The editor and its help file share a private folder, the same on every platform whatever the folder
+# of its libraries is called; people start the editor through a link.
 set(TEPHREX_PROGRAM_DIR lib/tephrexedit)
 install_program(tephrexedit ${TEPHREX_PROGRAM_DIR})
 install(FILES data/Tephrex3.hlp DESTINATION ${TEPHREX_PROGRAM_DIR})
@@ -48,7 +48,7 @@ install(FILES data/desktop/tephrexedit-mime.xml
   DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages RENAME tephrexedit.xml)
 install(FILES packaging/copyright DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/tephrexedit)
 
-# These name folders of the installation, and so wait for the prefix that it is given.
+# These files name folders of the installation, whose prefix is known only when installing.
 get_property(programs GLOBAL PROPERTY TEPHREX_PROGRAMS)
 install(CODE "
   set(TEPHREX_DATE \"${TEPHREX_DATE}\")

@@ -1,4 +1,4 @@
-# The Debian package. It belongs to /usr, wherever the build would install by itself.
+# The Debian package. It installs to /usr, whatever the build's own prefix is.
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_SET_DESTDIR ON)
@@ -16,8 +16,8 @@ set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
 each an eruption of one of seven styles, a faulting event or a period of
 erosion.
 .
-TephrexEdit shows one phase at a time, offers the parameters that count for
-its type, and saves a record only when every phase keeps the limits of its
+TephrexEdit shows one phase at a time, offers the parameters that its type
+uses, and saves a record only when every phase is within the limits of its
 type. The program tephrexcheck lists everything that is wrong with any
 number of records, and tephrexdraw draws one as a picture.")
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)

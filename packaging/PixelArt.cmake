@@ -1,6 +1,6 @@
-# Turns a picture in XPM into an SVG of the same pixels, for the sizes that were drawn by hand.
+# Turns a drawing in XPM into an SVG of the same pixels, for the sizes that were drawn by hand.
 
-# pixel_art(XPM SVG): one character per pixel, as all pictures of the program have it.
+# pixel_art(XPM SVG): the XPM must have one character per pixel.
 function(pixel_art xpm svg)
   file(STRINGS ${xpm} lines REGEX "^\"")
   list(TRANSFORM lines REPLACE "^\"(.*)\".*" "\\1")

@@ -1,6 +1,6 @@
-# How programs that are shipped are built: hardened, and with no folder of the machine in them.
+# How programs that are shipped are built: hardened, and without paths of the build machine.
 # Fortifying works in optimised builds only. Nothing interposes the functions of our libraries, so they
-# are inlined although their code is position-independent.
+# may be inlined although their code is position-independent.
 
 include(CheckPIESupported)
 check_pie_supported(LANGUAGES CXX)

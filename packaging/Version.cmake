@@ -1,5 +1,5 @@
-# The version is in the project's declaration and its date in the change log. Both are compared
-# here with what else names them; the manual has them filled in.
+# The version is in the project's declaration and its date in the change log. Here both are compared
+# with the other files that repeat them; the manuals get them when installing.
 
 set(TEPHREX_CHANGELOG ${CMAKE_CURRENT_LIST_DIR}/changelog)
 set(TEPHREX_METAINFO ${PROJECT_SOURCE_DIR}/data/desktop/org.example.tephrexedit.metainfo.xml)
@@ -12,7 +12,7 @@ execute_process(COMMAND date --utc "--date=${signed}" "+%s;%F"
   OUTPUT_VARIABLE date OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
 list(POP_FRONT date TEPHREX_SECONDS TEPHREX_DATE)
 
-# agree(FILE PATTERN LINE): the first line of that pattern has to be this one.
+# agree(FILE PATTERN EXPECTED): the first line that matches the pattern must contain this text.
 function(agree file pattern expected)
   file(STRINGS ${file} found REGEX "${pattern}" LIMIT_COUNT 1)
   string(FIND "${found}" "${expected}" at)

@@ -3,7 +3,7 @@
 # table. scripts/bench.sh --once takes each figure once, to see that the benchmarks still work.
 . "$(dirname "$0")/lib.sh"
 
-core=2 check=30 window=5 start=40 # seconds for each figure; programs take longer to start than to work
+core=2 check=30 window=5 start=40 # seconds for each figure; starting programs takes longest
 verdict=1
 if [ "${1:-}" = --once ]; then
     core=0 check=0 window=0 start=0 verdict=0 # a single turn says nothing about a goal
@@ -15,7 +15,7 @@ cmake -S . -B build/bench -DCMAKE_BUILD_TYPE=Release -DTEPHREX_BENCH=ON -DBUILD_
     >/dev/null
 cmake --build build/bench -j "$(nproc)" >/dev/null
 
-# No settings of the user's take part, and no disk: the records stand in memory.
+# Keeps out the user's settings and the disk: the records are in memory.
 home=$(mktemp -d)
 trap 'rm -rf "$home"' EXIT
 export HOME=$home XDG_CONFIG_HOME=$home XDG_RUNTIME_DIR=$home LC_ALL=C.UTF-8

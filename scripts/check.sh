@@ -8,13 +8,13 @@ mapfile -t sources <<<"$files"
 
 clang-format --dry-run -Werror "${sources[@]}"
 
-# Only the roof, and the tests and benchmarks of the window, may know the window.
+# Only main.cpp, and the tests and benchmarks of the window, may include the window.
 mapfile -t others < <(grep -vE '^(src/(window/|main\.cpp)|tests/window/|bench/Window)' <<<"$files")
 if grep -n '#include "window/' "${others[@]}"; then
     echo "Nothing else may include window/"
     exit 1
 fi
-# The arrows between units: a unit is a header with its source, an arrow is an include.
+# The arrows between units: a unit is a header with its source, an arrow is an include of another.
 (cd src && grep -o '#include "[^"]*"' -- */*.h */*.cpp |
     sed -E 's/^([^:]*)\.(h|cpp):#include "([^"]*)\.h"/\1 \3/' | awk '$1 != $2' | sort -u) >build/arrows
 # No circle among them: tsort fails on one and names it.
@@ -25,7 +25,7 @@ if awk 'NR == FNR { plain[$1]; next } $1 in plain && !($2 in plain)' \
     echo "A plain unit may include plain units only"
     exit 1
 fi
-# Nor does a program without a form include anything but that library and its own units.
+# A program without the form includes only that library, its own units and those named here.
 if awk 'NR == FNR { plain[$1]; next } $1 ~ /^check\// && $2 !~ /^check\// && !($2 in plain)' \
     src/plain_units.txt build/arrows | grep .; then
     echo "tephrexcheck may include the plain library only"
@@ -36,7 +36,7 @@ if awk 'NR == FNR { plain[$1]; next } $1 ~ /^draw\// && $2 !~ /^(check|draw)\// 
     echo "tephrexdraw may include the plain library and tephrexcheck's units only"
     exit 1
 fi
-# A unit of that list that is gone, or misspelt, would be checked no more.
+# A misspelt or removed unit in that list would go unchecked.
 while read -r unit; do
     [ -f "src/$unit.h" ] || { echo "src/plain_units.txt: there is no $unit" && exit 1; }
 done <src/plain_units.txt

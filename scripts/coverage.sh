@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Runs the tests of the core and reports which of its lines and branches they reach, and where the
 # others are. Branches that only exceptions take are left out: a throw, what comes after it on a
-# line that was reached without it, and the types that a catch does not take. So are those that the
-# compiler makes for a default. Further arguments go to the tests.
+# line that was reached without it, and the types that a catch does not match. So are those that the
+# compiler adds to defaulted functions. Further arguments are passed to the tests.
 . "$(dirname "$0")/lib.sh"
 
 install_missing g++ cmake make libgtest-dev

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# fuzz.sh [SECONDS]: builds the fuzz targets, runs each over its kept seeds and then fuzzes it for
-# as many seconds (30 if none are given). What fails lies in build/fuzz/findings; what was learned
-# lies in build/fuzz/corpus, where the next run goes on from.
+# fuzz.sh [SECONDS]: builds the fuzz targets, runs each on the seeds in fuzz/seeds and then fuzzes it
+# for that many seconds (30 if none are given). Failing inputs are in build/fuzz/findings, the inputs
+# found to reach new code in build/fuzz/corpus, which the next run starts from.
 . "$(dirname "$0")/lib.sh"
 
 seconds=${1:-30}
@@ -12,13 +12,13 @@ cmake -S . -B "$build" -DCMAKE_CXX_COMPILER=clang++ -DCMAKE_BUILD_TYPE=RelWithDe
     -DCMAKE_DISABLE_FIND_PACKAGE_Qt6=ON >/dev/null
 cmake --build "$build" -j "$(nproc)"
 
-# The targets take and give back memory in large blocks: a short quarantine keeps them fast.
+# The targets allocate and free memory in large blocks: a small quarantine keeps them fast.
 export ASAN_OPTIONS=quarantine_size_mb=4
 TMPDIR=$(mktemp -d)
 export TMPDIR
 trap 'rm -rf "$TMPDIR"' EXIT
 
-# fuzz TARGET LONGEST: an input has at most so many bytes.
+# fuzz TARGET LONGEST: an input has at most LONGEST bytes.
 fuzz() {
     local program=$build/fuzz/fuzz$1 corpus=$build/corpus/$1 findings=$build/findings log=$build/$1.log
     mkdir -p "$corpus" "$findings"

@@ -1,5 +1,4 @@
-# What the scripts share: where the project is, and how missing packages come onto the machine.
-# Sourced, not run.
+# Sourced by the scripts, not run: goes to the project's folder and installs missing packages.
 
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
@@ -12,7 +11,7 @@ is_installed() {
     [ "$(dpkg-query -W -f '${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
 }
 
-# install_missing PACKAGE...: asks the package manager only for what is not there yet.
+# install_missing PACKAGE...: asks the package manager only for those that are not installed yet.
 install_missing() {
     local package missing=()
     for package in "$@"; do

@@ -1,34 +1,34 @@
 #!/usr/bin/env bash
-# pictures.sh PROGRAM: makes the pictures of the README again, from the running program with the
-# demonstration record, and the drawings, with tephrexdraw, which is beside it. Look at them before
-# they are committed: the tests expect these drawings from then on.
+# pictures.sh PROGRAM: makes the pictures of the README again: screenshots of the running editor with
+# the demonstration record, and drawings by tephrexdraw in the same folder. Look at the drawings before
+# they are committed: from then on the tests expect them.
 . "$(dirname "$0")/lib.sh"
 
 install_missing "${screen_packages[@]}"
 . scripts/screen.sh
 
-# shot NAME WINDOW: the window alone, in few colours.
+# shot NAME WINDOW: a screenshot of one window, in few colours.
 shot() {
     sleep 0.3
     import -frame -window "$2" -depth 8 +dither -colors 64 "PNG8:docs/$1.png"
     echo "docs/$1.png"
 }
 
-# show_phase NUMBER: from the first phase on show.
-show_phase() {
+# skip_phases COUNT: from the shown phase to the one COUNT later.
+skip_phases() {
     xdotool key --delay 60 --repeat "$1" ctrl+Next
     sleep 0.2
 }
 
-records=/tmp/records # the path on show is to be the same on every machine
+records=/tmp/records # the picture shows the path, which must be the same on every machine
 mkdir -p docs
-mkdir "$records" || fail "$records is somebody's"
+mkdir "$records" || fail "$records exists already"
 leftovers+=("$records")
 cp data/TephrexDemo.rec "$records"
 start_editor "$1" "$records/"
 press Open
 answer_dialog "Open Record File" "$records/TephrexDemo.rec"
-show_phase 6
+skip_phases 6
 shot eruption "$form"
 keys ctrl+Prior ctrl+Prior ctrl+Prior ctrl+Prior
 shot flows "$form"

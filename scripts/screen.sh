@@ -1,4 +1,4 @@
-# A user at a virtual screen: starts the editor in a real window and works it with mouse and keys.
+# A user at a virtual screen: starts the editor in a real window and uses it with mouse and keys.
 # Sourced by the walks. Places are in twips, as in the form's catalogue.
 
 pictures=${TEPHREX_PICTURES:-$PWD/build/pictures}
@@ -7,19 +7,19 @@ home=$(mktemp -d)
 leftovers=("$home")
 trap 'kill $(jobs -p) 2>/dev/null || true; rm -rf "${leftovers[@]}"' EXIT
 
-# All that a walk starts has this home: nothing of the user's reaches it, and it leaves nothing there.
+# Everything a walk starts has this home, so it neither reads nor changes the user's files.
 mkdir -m 700 "$home/.config" "$home/run"
 export HOME=$home XDG_RUNTIME_DIR=$home/run
 unset XDG_CONFIG_HOME XDG_CACHE_HOME XDG_DATA_HOME XDG_STATE_HOME XDG_CONFIG_DIRS
 
-# The server picks a free number by itself, so walks can go on side by side. It must not reset
-# when its last client goes: another one that is just coming in, such as openbox, would be thrown out.
+# The server picks a free number itself, so walks can run side by side. It must not reset when its
+# last client leaves: one that is just connecting, such as openbox, would be disconnected.
 Xvfb -noreset -displayfd 3 -screen 0 "${TEPHREX_SCREEN:-1600x1200x24}" 3>"$home/display" 2>/dev/null &
 for _ in $(seq 200); do
     [ -s "$home/display" ] && break
     sleep 0.05
 done
-[ -s "$home/display" ] || { echo "walk: no virtual screen comes up" >&2 && exit 1; }
+[ -s "$home/display" ] || { echo "walk: the virtual screen does not start" >&2 && exit 1; }
 DISPLAY=:$(cat "$home/display")
 export DISPLAY
 unset WAYLAND_DISPLAY
@@ -30,13 +30,13 @@ fail() {
     exit 1
 }
 
-# picture NAME: what is on the screen now, as a file.
+# picture NAME: saves a screenshot and prints its path.
 picture() {
     import -window root "$pictures/$1.png"
     echo "$pictures/$1.png"
 }
 
-# wait_until COMMAND...: at most twenty seconds.
+# wait_until COMMAND...: until the command succeeds, at most twenty seconds.
 wait_until() {
     for _ in $(seq 400); do
         if "$@" >/dev/null 2>&1; then return 0; fi
@@ -48,7 +48,7 @@ wait_until() {
 window_named() { xdotool search --onlyvisible --name "$1"; }
 no_window_named() { ! window_named "$1"; }
 
-# await NAME, await_gone NAME: a window comes up and takes the keys, or goes.
+# await NAME, await_gone NAME: until a window is there and has the keys, or is gone.
 await() {
     wait_until window_named "$1"
     xdotool windowactivate --sync "$(window_named "$1" | tail -n 1)" 2>/dev/null || true
@@ -58,16 +58,16 @@ await_gone() {
     xdotool windowactivate --sync "$form" 2>/dev/null || true # a click before that can get lost
 }
 
-# painted: a window with updates turned off comes up all the same, in one colour.
+# painted: a window whose updates are turned off appears too, but in one colour.
 painted() { [ "$(import -window "$form" -format %k info:-)" -gt 40 ]; }
 
-# start_editor PROGRAM [DATA_FOLDER]: without a data folder with no settings of its own.
+# start_editor PROGRAM [DATA_FOLDER]: without a data folder there is no settings file.
 start_editor() {
     if [ $# -gt 1 ]; then
         printf '[Settings]\nDataPath=%s\n' "$2" >"$home/.config/Tephrex3.ini"
     fi
     openbox >/dev/null 2>&1 &
-    wait_until xdotool get_desktop # a window that comes up before it does can get lost
+    wait_until xdotool get_desktop # a window that opens before openbox runs can get lost
     "$1" &
     editor=$!
     await "Edit Tephrex Record"
@@ -76,7 +76,7 @@ start_editor() {
     eval "$(xdotool getwindowgeometry --shell "$form" | grep -E '^(WIDTH|HEIGHT)=')"
 }
 
-# click LEFT TOP: the middle of what is there on the form.
+# click LEFT TOP: at this place of the form.
 click() {
     xdotool mousemove --window "$form" $(($1 * WIDTH / 7665)) $(($2 * HEIGHT / 5970)) click 1
     sleep 0.15
@@ -98,13 +98,13 @@ press() {
     click ${place[$1]}
 }
 
-# fill BOX TEXT: the click selects what is there, and the text replaces it.
+# fill BOX TEXT: the click selects the old text, and the new one replaces it.
 fill() {
     press "$1"
     type_text "$2"
 }
 
-# pick LIST ENTRY: the entry counted from 0, by keyboard from the open list.
+# pick LIST ENTRY: by keyboard from the open list; entries count from 0.
 pick() {
     press "$1"
     keys Down Home
@@ -112,7 +112,7 @@ pick() {
     keys Return
 }
 
-# answer_dialog TITLE PATH: gives a file dialog its name.
+# answer_dialog TITLE PATH: types a name into a file dialog.
 answer_dialog() {
     await "$1"
     keys ctrl+a

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# show.sh PROGRAM: the editor's main job on a virtual screen. It opens the demonstration record,
-# changes a number, saves under another name, and leaves pictures whose paths it prints.
+# show.sh PROGRAM: shows the editor on a virtual screen. It opens the demonstration record, changes a
+# number, saves under another name, and prints the paths of the screenshots that it took.
 . "$(dirname "$0")/lib.sh"
 . scripts/screen.sh
 
@@ -20,5 +20,5 @@ wait_until test -s "$saved"
 picture saved
 close_editor
 
-echo "The record was saved as $saved. What the change made of it:"
+echo "The record was saved as $saved. The difference:"
 diff data/TephrexDemo.rec "$saved" || true

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds everything and runs all tests. Further arguments go to the
-# configuration, as in: scripts/test.sh -DTEPHREX_WERROR=ON
+# Installs what is missing, builds everything and runs all tests. Further arguments are passed to
+# cmake, as in: scripts/test.sh -DTEPHREX_WERROR=ON
 . "$(dirname "$0")/lib.sh"
 
 install_missing "${build_packages[@]}" "${screen_packages[@]}" libgtest-dev \
