@@ -1,4 +1,4 @@
-// What a text is worth as a number, and how numbers are written, where the separators differ.
+// The number that a text stands for, and the text of a number, with various separators.
 #include <array>
 
 #include "TestForm.h"

@@ -1,5 +1,4 @@
-// The text form of a record: what can be read, what a read stores, and what is written byte for
-// byte.
+// The text form of a record: what can be read, what a read stores, and which bytes are written.
 #include <cmath>
 
 #include "TestForm.h"
@@ -66,7 +65,7 @@ TEST_F(RecordTest, AcceptedVariantsAreWrittenInStandardForm) {
 TEST_F(RecordTest, AHeaderIsKeptAsFarAsItWasRead) {
     // Items end at a comma, a line end or a quote.
     // clang-format off
-    const struct { std::string bytes; bool whole; std::string reference; int count, scale; } rows[] = {
+    const struct { std::string bytes; bool read; std::string name; int count, scale; } rows[] = {
         {{"a,  my \xFF\0 file  \nb c , 0 4", 26}, true, {"my \xFF\0 file", 10}, 0, 4},
         {"\"a\" x \"y\n \" b,\r\n \" \"z,c\n0,4", true, " b,\r\n ", 0, 4},
         {"a,\nb,0,\n", true, "", 0, 0},            {"a,b\n\nc,0,4", true, "b", 0, 0},
@@ -79,9 +78,9 @@ TEST_F(RecordTest, AHeaderIsKeptAsFarAsItWasRead) {
         StratFile = "old";
         LoadedPhaseCount = 7;
         RecordScale = 9;
-        EXPECT_EQ(Read(row.bytes), row.whole) << row.bytes;
+        EXPECT_EQ(Read(row.bytes), row.read) << row.bytes;
         EXPECT_EQ(std::tie(StratFile, LoadedPhaseCount, RecordScale),
-                  std::tie(row.reference, row.count, row.scale))
+                  std::tie(row.name, row.count, row.scale))
             << row.bytes;
         EXPECT_EQ(LoadedPhases[1], PhaseRecord{});
     }

@@ -116,7 +116,7 @@ private:
                                : Joined(entries, ", ");
     }
 
-    // A box that turns together with its label goes by the name that they share.
+    // A box that changes together with its label is listed by the name they share.
     Items Turned(const Snapshot& before) const {
         Items items;
         for (const bool on : {false, true}) {

@@ -87,7 +87,7 @@ public:
         platform.whileMessageShows = [this] { NoteMessage(); };
         form.random = [this] { return Draw(); };
         for (const NamedText& tip : ToolTips()) {
-            form.Find(tip.control)->SetToolTipText(tip.text);  // ControlsTest has them
+            form.Find(tip.control)->SetToolTipText(tip.text);  // which ControlsTest checks
         }
         before = Look();
         Load();
@@ -107,7 +107,10 @@ public:
         }
     }
     std::vector<Items> Use(const UserAction& action) {
-        Control& control = *form.Find(action.name);
+        Control* const control = form.Find(action.name);
+        if (control == nullptr) {
+            throw std::invalid_argument("no control " + action.name);
+        }
         const std::string answering = "answering ";
         if (action.text.starts_with(answering)) {
             for (const std::string& name : WordsOf(action.text.substr(answering.size()))) {
@@ -117,11 +120,11 @@ public:
                 }
             }
         }
-        if (!control.AcceptsUserActions()) {
+        if (!control->AcceptsUserActions()) {
             noted.push_back({"refused"});
         }
         const std::size_t asked = platform.asked.size() + platform.answers.size();
-        Perform(control, action.verb, action.text);
+        Perform(*control, action.verb, action.text);
         EXPECT_EQ(platform.asked.size(), asked) << action.name << ": dialogs and answers";
         platform.answers.clear();
         return Changes();
@@ -189,8 +192,8 @@ private:
 /// What a step changes, in lines of items; nothing for a step that only prepares others.
 using Outcome = std::optional<std::vector<Items>>;
 
-/// Takes the steps of a story in turn. What it does of them is a method of the step's verb; a verb
-/// that has none is a user's.
+/// Takes the steps of a story in turn: each by the method of its verb or, without one, as a user
+/// action.
 class Story {
 public:
     Outcome Take(const std::string& step) {
@@ -242,13 +245,13 @@ private:
         Take(step);
         return {};
     }
-    // Next to a phase without a type, which closes all that a type opens.
+    // After a phase without a type, which disables all that a type enables.
     Outcome Show(const std::string& phase) {
         Given("None");
         And(phase);
         return scene->Use(UserAction("pick cmbPhase Phase 2"));
     }
-    // Each type has its record, in which a phase before that of the type is on show.
+    // A record for each type. Its first phase is another one: showing a phase rounds its numbers.
     Outcome Judge(const std::string& words) {
         judged.clear();
         auto [type, rest] = SplitOff(words);
@@ -265,7 +268,7 @@ private:
             Open(record);
             verdicts.push_back(scene->Verdict());
         }
-        const bool agreed = std::ranges::count(verdicts, verdicts[0]) == std::ssize(verdicts);
+        const bool agreed = std::ranges::count(verdicts, verdicts.at(0)) == std::ssize(verdicts);
         verdicts.resize(agreed ? 1 : verdicts.size());
         return {{verdicts}};
     }
@@ -278,7 +281,7 @@ private:
         }
     }
 
-    std::unique_ptr<Scene> scene;
+    std::unique_ptr<Scene> scene = std::make_unique<Scene>();
     DescribedRecord described;
     std::string file;  // of the described record; empty if it is open
     std::vector<DescribedRecord> judged;
@@ -286,7 +289,7 @@ private:
 
 constexpr std::size_t Width = 100;
 
-// Broken between items where that is possible.
+// Lines of at most `Width` bytes, broken between items where that is possible.
 std::string Wrapped(std::string line) {
     std::string text;
     while (line.size() > Width) {

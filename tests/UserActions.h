@@ -12,7 +12,7 @@ struct UserAction {
         std::istringstream words(line);
         words >> verb >> name;
         std::getline(words >> std::ws, text);
-        text = text == "\"\"" ? "" : text;  // as stories write no text
+        text = text == "\"\"" ? "" : text;  // which stories write for no text
     }
 };
 
