@@ -43,7 +43,7 @@ constexpr int LargeRecords = 2000;
 constexpr int SmallRecords = 10000;
 
 void CheckFolder(benchmark::State& state, const FolderOfRecords& folder, int jobs) {
-    static const ReportForm quiet{.quiet = true};
+    static const ReportOptions quiet{.quiet = true};
     Output output(false);
     const Tally tally = CheckRecords(ListRecords({folder.path}), jobs, quiet, output);
     if (tally.passes != static_cast<int>(folder.names.size())) {

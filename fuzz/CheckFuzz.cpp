@@ -46,7 +46,7 @@ private:
 };
 
 Verdict Check(const std::string& bytes, RecordCheck& check) {
-    static const ReportForm text;
+    static const ReportOptions text;
     Report report(text, "fuzzed");
     std::stringbuf source(bytes);
     check.Run(source, [&report](const Finding& finding) { report.Add(finding); });

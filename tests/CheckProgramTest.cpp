@@ -45,18 +45,18 @@ TEST(CheckProgramTest, TheProgramListsRecordsInOrderAndItsStatusIsTheWorstOfThem
         "all/b.rec/i.Rec:13: invalid: phase 2 (Strombolian): Wind speed too negative (wind -80, at "
         "least -50)\n";
     const std::string json =
-        "\",\"findings\":[{\"level\":\"warning\",\"line\":125,\"message\":\"what follows the last "
-        "item "
-        "is not read\"}],\"phases\":14,\"status\":\"";
+        "\",\"findings\":[{\"level\":\"warning\",\"line\":125,\"message\":\"text after the last "
+        "item is not read\"}],\"phases\":14,\"status\":\"";
     const std::string onTerminal = "script -qec \"'" TEPHREX_CHECK "' ";
     const std::string plain = " 0 is judged as 20 (scale)\r\n1 record: 1 passes\r\n= 0\n";
     std::string help = "-h | tr -s ' \\n' ' ' | grep -c '";
     for (const char* const said :
          {"Lists everything that is wrong with the records of the Tephrex eruption simulator.",
           "RECORD", "A file, a folder (every [*].rec below it), or - for standard input",
-          "Show this help and end", "Show the version and end",
-          "How many records to check at a time", "Print one JSON object a record, each on a line",
-          "Print nothing: the exit status alone", "Count a record with warnings as invalid",
+          "Show this help and exit", "Show the version and exit",
+          "How many records to check at a time",
+          "Print one JSON object per record, each on one line",
+          "Print nothing; only set the exit status", "Count a record with warnings as invalid",
           "Exit status: 0 if all records pass, 1 if one is invalid, 2 if one cannot be read or the "
           "command line is wrong."}) {
         help += said + std::string(" .*");
@@ -77,7 +77,7 @@ TEST(CheckProgramTest, TheProgramListsRecordsInOrderAndItsStatusIsTheWorstOfThem
          "-:1: error: the file or its device failed: Is a directory (label)\n"
          "1 record: 1 unreadable\n= 2\n"},
         {"[[]*",
-         "[\\n\xE9\"]:125: warning: what follows the last item is not read\n1 record: 1 passes\n= "
+         "[\\n\xE9\"]:125: warning: text after the last item is not read\n1 record: 1 passes\n= "
          "0\n"},
         {"--json [[]*", "{\"record\":\"[\\n\uFFFD\\\"]" + json + "passes\"}\n= 0\n"},
         {"--json all/b.rec",

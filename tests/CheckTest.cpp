@@ -94,14 +94,14 @@ const Change Changes[] = {
      "16: warning: phase 2: 0 is not above 0 (burstCount)\n"
      "16: warning: phase 2: 2 is neither 0 nor 1 (burstFlag)\n"
      "17: warning: phase 2: 0 is outside 1 to 11 (flowLength)\n"
-     "19: warning: what follows the last item is not read\n"},
+     "19: warning: text after the last item is not read\n"},
     {"1,-8", "\n1,-8",
      "13: warning: phase 2: the line holds 3 items instead of 4 (ventLocation, eruptionType, strength, wind)\n"
      "13: warning: phase 2: \"\" is no number and counts as 0 (strength)\n"
      "16: warning: phase 2: 0 is not above 0 (burstCount)\n"
      "16: warning: phase 2: 2 is neither 0 nor 1 (burstFlag)\n"
      "17: warning: phase 2: 0 is outside 1 to 11 (flowLength)\n"
-     "19: warning: what follows the last item is not read\n"},
+     "19: warning: text after the last item is not read\n"},
     {"\"a.str\"", "a\"b,\"",
      "1: invalid: Recorder file save error (reference \"a\\\"b\")\n"
      "1: warning: \"\\n\" where \"Recorded phases\" is expected (label)\n"},
@@ -109,13 +109,13 @@ const Change Changes[] = {
      "1: warning: text after the closing quote is dropped (reference)\n"},
     {"ed phases\"", "ing\",zwei",
      "2: warning: \"Recording\" where \"Recorded phases\" is expected (label)\n"
-     "2: warning: what follows the last item is not read\n"},
+     "2: warning: text after the last item is not read\n"},
     {"\n\n\"Record Phase: \",2", "\n\"Record Phase: \",2",
      "11: warning: phase 2: \"Record Phase: \" where an empty line is expected (empty line)\n"
      "12: invalid: phase 2 (Vulcanian/Surtseyan): Minimum Strength (0.20) not met. (strength -8)\n"
-     "19: warning: what follows the last item is not read\n"},
+     "19: warning: text after the last item is not read\n"},
     {"\n\n\"Record Phase: \",2", ",\n\"Record Phase: \",2",
-     "10: warning: phase 2: the line of the block before goes on where a new line is expected (empty line)\n"},
+     "10: warning: phase 2: the line of the previous block continues where a new line is expected (empty line)\n"},
     {"\"Record Phase: \",2\n12", "Record Phase: , 2.\nx",
      "13: warning: phase 2: \"x\" is no number and counts as 0 (ventLocation)\n"
      "13: invalid: phase 2 (Hawaiian): Location too small (ventLocation 0, at least 1)\n"},
@@ -128,10 +128,10 @@ const Change Changes[] = {
      "18: warning: phase 2: the line holds 5 items instead of 4 (midRadius, depositAngle, leftAngle, rightAngle)\n"},
     {"12,3", "12,-1",
      "13: warning: phase 2: -1 means that no eruption type is chosen (eruptionType)\n"
-     "19: warning: what follows the last item is not read\n"},
+     "19: warning: text after the last item is not read\n"},
     {"12,3", "12,8",
      "13: warning: phase 2: 8 is no eruption type (eruptionType)\n"
-     "19: warning: what follows the last item is not read\n"},
+     "19: warning: text after the last item is not read\n"},
     {"12.5,5", "0,0",
      "8: warning: phase 1: 0 is neither Faulting nor Erosion (tectonicKind)\n"
      "8: warning: phase 1: 0 is not above 0 (erosionCycles)\n"},
@@ -162,7 +162,7 @@ const Change Changes[] = {
     {"2,20", "2,0",
      "2: warning: 0 is judged as 20 (scale)\n"},
     {"2,20", "3,-7",
-     "2: warning: -7 is none of the scales 4, 20 and 100 (scale)\n"
+     "2: warning: -7 is not one of the scales 4, 20 and 100 (scale)\n"
      "5: invalid: phase 1 (Plinian): Location too small (ventLocation 12.5, at most -0.3500001)\n"
      "13: invalid: phase 2 (Hawaiian): Location too small (ventLocation 12, at most -0.3500001)\n"
      "20: error: the file ends before the record does (phase 3 of 3, empty line)\n"},
@@ -178,9 +178,9 @@ const Change Changes[] = {
      "19: invalid: phase 2 (Hawaiian): Flow Duration too short. (flow 1: 5)\n"
      "20: invalid: phase 2 (Hawaiian): Flow Duration too short. (flow 2: 6)\n"},
     {"1150\n", "1150\n \n\n;",
-     "23: warning: what follows the last item is not read\n"},
+     "23: warning: text after the last item is not read\n"},
     {"1150\n", "1150,\n",
-     "20: warning: what follows the last item is not read\n"},
+     "20: warning: text after the last item is not read\n"},
     {"1150\n", "\"1150\" x\n\n",
      "20: warning: phase 2: text after the closing quote is dropped (flow 2)\n"},
     {"1150\n", "1150", ""},

@@ -35,7 +35,7 @@ case $(head -c 24 1.png | od -An -tx1 | tr -d ' \n') in
     *) give_up "a PNG of 180 mm at 200 dpi is 1418 pixels wide" ;;
 esac
 
-# Two drawings, down to the last point and colour: the README's, and one of a record with every sign,
+# Two drawings, down to the last point and colour: the README's, and one of a record with every symbol,
 # many invalid values and the ends of the map. scripts/pictures.sh makes them again.
 [ -e /usr/share/fonts/truetype/dejavu/DejaVuSans.ttf ] || give_up "needs fonts-dejavu-core"
 export FONTCONFIG_FILE=$project/tests/draw/fonts.conf
@@ -68,9 +68,9 @@ refused "missing/new.svg" "$record" -o missing/new.svg
 refused "the picture has more pixels than can be painted; try a smaller --dpi" "$record" -o old.png --dpi 2400 --width 1000
 [ "$(cat old.png)" = old ] || give_up "a picture that failed has replaced a file"
 refused "folder.svg: " "$record" -o folder.svg
-refused "the name of the picture ends in .svg, .png or .pdf$" "$record" -o new.gif
+refused "the name of the picture must end in .svg, .png or .pdf$" "$record" -o new.gif
 refused "is not UTF-8" "$record" -o $'\xE9.svg'
-refused "^tephrexdraw: --width is a number from 120 to 2000$" "$record" --width 119.9
+refused "^tephrexdraw: --width must be a number from 120 to 2000$" "$record" --width 119.9
 refused "from 120 to 2000" "$record" --width 2000.1
 refused "from 10 to 2400" "$record" --dpi 2401
 refused "from 10 to 2400" "$record" --dpi 9.9
@@ -80,8 +80,8 @@ refused "name one record" "$record" "$record"
 refused "Unknown option" "$record" $'--col\nour'
 grep -qx "tephrexdraw [0-9.]*" <<<"$("$draw" -V)" || give_up "the version"
 help="Draws a record of the Tephrex eruption simulator as one picture. Options: \
--h, --help Show this help and end. -V, --version Show the version and end. -o, --output <FILE> \
-Draw into FILE, by its ending .svg, .png or .pdf; without it, SVG on standard output. \
+-h, --help Show this help and exit. -V, --version Show the version and exit. -o, --output <FILE> \
+Draw into FILE, which ends in .svg, .png or .pdf; by default, SVG on standard output. \
 --width <MM> Width in millimetres, 120 to 2000. --dpi <DPI> Dots per inch of a PNG, 10 to 2400. \
 Arguments: RECORD The record to draw. "
 [ "$("$draw" -h | tail -n +2 | tr -s ' \n' ' ')" = "$help" ] || give_up "the help"

@@ -9,8 +9,7 @@ namespace {
 
 using Offsets = std::array<std::int64_t, ItemPlace::FirstFlow + MaxFlows>;
 
-// The lines on which the writer puts the items of a phase and of the header, counted from the
-// first.
+// The line on which the writer puts each item of a phase or of the header, counted from 0.
 constexpr Offsets PhaseLines = [] {
     Offsets lines{0, 1, 1};
     std::size_t item = ItemPlace::FirstField;
@@ -26,7 +25,7 @@ constexpr Offsets HeaderLines{0, 0, 1, 1, 1};
 
 const Offsets& LinesOf(int block) { return block == 0 ? HeaderLines : PhaseLines; }
 
-// The label that the writer puts at a place; null where it puts something else.
+// The label that the writer puts at a place; null if another item belongs there.
 const std::string_view* LabelAt(const ItemPlace& place) {
     static constexpr std::string_view emptyLine;
     if (place.phase == 0) {
@@ -78,12 +77,12 @@ void BlockNotes::NoteDropped(const ItemPlace& place) {
     Note(place, "text after the closing quote is dropped");
 }
 
-bool BlockNotes::TakeInto(std::vector<Finding>& findings, int block, int items) {
+bool BlockNotes::MoveInto(std::vector<Finding>& findings, int block, int items) {
     const auto count = static_cast<std::size_t>(items);
     CompareLines(block, count);
     std::move(notes.begin(), notes.end(), std::back_inserter(findings));
     notes.clear();
-    lineBefore = lines[count - 1];
+    previousLine = lines[count - 1];
     return !std::exchange(labelsDiffer, false);
 }
 
@@ -99,18 +98,18 @@ void BlockNotes::Note(const ItemPlace& place, std::string message) {
 
 void BlockNotes::CompareLines(int block, std::size_t items) {
     const Offsets& written = LinesOf(block);
-    std::int64_t differ = lines[0] == lineBefore ? 1 : 0;
+    std::int64_t differ = lines[0] == previousLine ? 1 : 0;
     for (std::size_t i = 0; i < items; ++i) {
         differ |= lines[i] - lines[0] - written[i];
     }
     if (differ == 0 || labelsDiffer) {
         return;
     }
-    if (lines[0] == lineBefore) {
-        Note({block, 0}, "the line of the block before goes on where a new line is expected");
+    if (lines[0] == previousLine) {
+        Note({block, 0}, "the line of the previous block continues where a new line is expected");
         return;
     }
-    // A line end in quotes moves what comes next, but is no other line.
+    // A line end inside quotes moves the later items down; what counts is which items share a line.
     for (std::size_t i = 1; i < items; ++i) {
         if ((lines[i] == lines[i - 1]) != (written[i] == written[i - 1])) {
             NoteLines({block, static_cast<int>(i) - 1}, items);
@@ -119,7 +118,7 @@ void BlockNotes::CompareLines(int block, std::size_t items) {
     }
 }
 
-// Of the line of this item, which holds more or fewer items than the writer puts there.
+// Notes that the line of this item holds more or fewer items than the writer puts there.
 void BlockNotes::NoteLines(const ItemPlace& place, std::size_t items) {
     const Offsets& written = LinesOf(place.phase);
     const auto at = static_cast<std::size_t>(place.item);

@@ -1,5 +1,5 @@
-// What a reader notes of one block of a record, the header or a phase: the lines of its items, and
-// what is read otherwise than it looks. What the numbers mean is in RecordCheck.
+// Notes on one block of a record, the header or a phase: the lines of its items, and items that are
+// read differently from how they look. What the values mean is checked in RecordCheck.
 #pragma once
 
 #include <array>
@@ -10,24 +10,27 @@
 
 class BlockNotes {
 public:
-    /// Takes down the line of an item.
+    /// Sets the line, from 1, of an item, counted as in ItemPlace.
     void SetLine(int item, std::int64_t line) { lines[static_cast<std::size_t>(item)] = line; }
     std::int64_t LineOf(int item) const { return lines[static_cast<std::size_t>(item)]; }
 
-    /// Compares a label, or the empty line of a phase, with what the writer puts there.
+    /// Notes a label, or text in the empty line of a phase, that differs from the writer's, except
+    /// for outer blanks. That note replaces all others on the block. An item that is no label is
+    /// ignored.
     void CompareLabel(const ItemPlace& place, std::string_view text);
 
-    /// Compares the number of a phase with its place in the file.
+    /// Notes a phase number that is not the place of the phase in the file.
     void ComparePhaseNumber(const ItemPlace& place, std::string_view text);
 
-    /// Looks at an item that was read as `value`.
+    /// Notes an item, read as `value`, that is not a number, or not a whole one if `isWhole`.
     void CompareNumber(const ItemPlace& place, std::string_view text, double value, bool isWhole);
 
+    /// Notes that text after the closing quote of an item was dropped.
     void NoteDropped(const ItemPlace& place);
 
-    /// Adds what was noted of a block of so many items, in no order, and begins the next. False if
-    /// its labels are not the writer's: then that is all there is to say of how it reads.
-    bool TakeInto(std::vector<Finding>& findings, int block, int items);
+    /// Moves the notes on a block of `items` items to `findings`, unsorted, and starts the next
+    /// block. False if a label differs from the writer's: then that is the only note.
+    bool MoveInto(std::vector<Finding>& findings, int block, int items);
 
 private:
     void Note(const ItemPlace& place, std::string message);
@@ -35,7 +38,7 @@ private:
     void NoteLines(const ItemPlace& place, std::size_t items);
 
     std::array<std::int64_t, ItemPlace::FirstFlow + MaxFlows> lines{};
-    std::int64_t lineBefore = 0;  // that of the last item of the block before
+    std::int64_t previousLine = 0;  // of the last item of the previous block
     std::vector<Finding> notes;
     bool labelsDiffer = false;
 };

@@ -16,19 +16,19 @@
 
 namespace {
 
-// Gives the records out, and brings the reports into order. A thread that is ahead leaves its
-// report here; one that is far ahead, or has a long report, waits.
+// Hands out the records and prints the reports in order. A thread that is ahead leaves its report
+// here; one that is far ahead, or has a long report, waits.
 class Turns {
 public:
     Turns(std::size_t records, Output& theOutput) : all(records), output(theOutput) {}
 
-    /// The next record to check, if there is one.
+    /// The next record to check; none after the last one or a failed write.
     std::optional<std::size_t> Next() {
         const std::size_t record = next++;
         return record < all && !stopped ? std::optional(record) : std::nullopt;
     }
 
-    /// Prints a part of a report when it is the record's turn.
+    /// Prints part of a report when it is the record's turn, and empties `text`.
     void Print(std::size_t record, std::string& text) {
         std::unique_lock lock(mutex);
         advanced.wait(lock, [&] { return record == printed; });
@@ -36,6 +36,7 @@ public:
         text.clear();
     }
 
+    /// Takes the rest of a report, and prints all reports that are due.
     void Finish(std::size_t record, Report& report) {
         std::unique_lock lock(mutex);
         advanced.wait(lock, [&] { return record < printed + finished.size(); });
@@ -65,7 +66,7 @@ private:
     std::atomic<bool> stopped = false;
     std::mutex mutex;
     std::condition_variable advanced;
-    std::array<std::optional<std::string>, 256> finished;  // from `printed` on
+    std::array<std::optional<std::string>, 256> finished;  // reports, from `printed` on
     std::size_t printed = 0;
     std::size_t done = 0;
     Tally tally;
@@ -74,8 +75,9 @@ private:
 // Checks records until there are none left.
 class Worker {
 public:
-    Worker(const std::vector<RecordName>& theRecords, const ReportForm& theForm, Turns& theTurns)
-        : records(theRecords), form(theForm), turns(theTurns) {}
+    Worker(const std::vector<RecordName>& theRecords, const ReportOptions& theOptions,
+           Turns& theTurns)
+        : records(theRecords), options(theOptions), turns(theTurns) {}
 
     void Run() {
         while (const auto record = turns.Next()) {
@@ -85,7 +87,7 @@ public:
 
 private:
     void Check(std::size_t record) {
-        Report report(form, records[record].name);
+        Report report(options, records[record].name);
         const FindingSink sink = [&](const Finding& finding) {
             constexpr std::size_t longText = 1 << 16;
             report.Add(finding);
@@ -115,25 +117,25 @@ private:
     }
 
     const std::vector<RecordName>& records;
-    const ReportForm& form;
+    const ReportOptions& options;
     Turns& turns;
     RecordCheck check;
 };
 
 }  // namespace
 
-Tally CheckRecords(const std::vector<RecordName>& records, int jobs, const ReportForm& form,
+Tally CheckRecords(const std::vector<RecordName>& records, int jobs, const ReportOptions& options,
                    Output& output) {
     Turns turns(records.size(), output);
-    const auto work = [&] { Worker(records, form, turns).Run(); };
+    const auto work = [&] { Worker(records, options, turns).Run(); };
     std::vector<std::jthread> others;
-    const std::size_t wanted = std::min(static_cast<std::size_t>(jobs), records.size());
+    const std::size_t threads = std::min(static_cast<std::size_t>(jobs), records.size());
     try {
-        while (others.size() + 1 < wanted) {
+        while (others.size() + 1 < threads) {
             others.emplace_back(work);
         }
     } catch (const std::system_error&) {
-        // The system has no more threads: those that there are do all the work.
+        // The system allows no more threads; the existing ones do all the work.
     }
     work();
     others.clear();

@@ -1,13 +1,12 @@
-// The bytes of a file, straight from the system: no buffer between it and a reader that has its
-// own.
+// The bytes of a file without a buffer, for a reader that has its own.
 #pragma once
 
 #include <streambuf>
 
-/// A stream that can only be read in pieces. A read that fails throws std::system_error.
+/// A stream that can only be read with sgetn. A failed read throws std::system_error.
 class FileSource : public std::streambuf {
 public:
-    /// Takes over an open descriptor; standard input stays open.
+    /// Takes ownership of an open descriptor; standard input is not closed.
     explicit FileSource(int descriptor) : file(descriptor) {}
     ~FileSource() override;
     FileSource(const FileSource&) = delete;

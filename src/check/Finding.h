@@ -1,4 +1,5 @@
-// What can be wrong with a record, and what a record comes out as.
+// A fault found in a record, and the verdict on the record. How findings are worded is in Wording
+// and JsonReport.
 #pragma once
 
 #include <cstdint>
@@ -11,26 +12,25 @@
 
 enum class Level {
     Error,    // the record cannot be read
-    Invalid,  // it could not be saved as it is
-    Warning   // it is read otherwise than it looks
+    Invalid,  // Save would refuse it
+    Warning   // it is read differently from how it looks
 };
 
 struct Finding {
     Level level = Level::Warning;
-    std::int64_t line = 0;  // 0 where there is none
-    ItemPlace place = {};   // the item at fault
-    std::string_view type =
-        {};                  // the name of the phase's eruption type, where the rule is the type's
-    std::string field = {};  // the name of what is at fault; empty for a line as a whole
-    std::string message = {};  // in words for the user
-    std::string value = {};    // of the field, as a record has it; in quotes where it is a text
-    Bounds passing = {};       // the values that would pass
-    int phaseCount = 0;        // of an error in a phase: how many the record says it has
-    bool showsLimit = false;   // whether the message leaves the last of them unsaid
+    std::int64_t line = 0;       // 0 where there is none
+    ItemPlace place = {};        // the item at fault
+    std::string_view type = {};  // the name of the eruption type of an invalid phase
+    std::string field = {};      // the name of the item, or of all expected in its line
+    std::string message = {};    // for the user
+    std::string value = {};      // of the field, as in a record; text is quoted
+    Bounds passing = {};         // the values that would pass
+    int phaseCount = 0;          // for an error in a phase: how many phases the record says it has
+    bool showsLimit = false;     // whether the limit is shown, as the message does not name it
 };
 
-/// Takes the findings of a record in the order in which they are to be listed.
+/// Receives the findings of a record in the order in which they are listed.
 using FindingSink = std::function<void(const Finding& finding)>;
 
-/// What a record comes out as, the worst last.
+/// The verdict on a record, the worst last.
 enum class Verdict { Passes, Invalid, Unreadable };

@@ -2,11 +2,11 @@
 
 std::string_view NotingReader::Text() {
     const std::string_view text = in.Text();
-    Settle();
+    NoteDropped();
     if (place.phase > 0 && place.item == ItemPlace::EmptyLine) {
         endOfBlock(place.phase - 1);
     }
-    Watch();
+    Remember();
     if (place != ItemPlace{0, ItemPlace::Reference}) {
         notes.CompareLabel(place, text);
     }
@@ -15,30 +15,30 @@ std::string_view NotingReader::Text() {
 
 void NotingReader::SkipNumber() {
     in.SkipNumber();
-    Settle();
-    Watch();
+    NoteDropped();
+    Remember();
     notes.ComparePhaseNumber(place, in.Item());
 }
 
 void NotingReader::EndBlock(int block) {
-    Settle();
+    NoteDropped();
     endOfBlock(block);
 }
 
-void NotingReader::Look(double value, bool isWhole) {
-    Settle();
-    Watch();
+void NotingReader::CompareNumber(double value, bool isWhole) {
+    NoteDropped();
+    Remember();
     notes.CompareNumber(place, in.Item(), value, isWhole);
 }
 
-// What came after the closing quote is known once the next item has been read, whenever that is.
-void NotingReader::Settle() {
+// Whether text was dropped after a closing quote is known once the next item has been read.
+void NotingReader::NoteDropped() {
     if (std::exchange(afterQuote, false) && in.Dropped()) {
         notes.NoteDropped(quoted);
     }
 }
 
-void NotingReader::Watch() {
+void NotingReader::Remember() {
     notes.SetLine(place.item, in.Line());
     afterQuote = in.Quoted();
     quoted = place;

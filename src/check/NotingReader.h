@@ -1,4 +1,5 @@
-// A reader of records that takes notes of what it reads, for ReadRecordWith.
+// A reader for ReadRecordWith that takes notes on the items it reads. What is noted is in
+// BlockNotes.
 #pragma once
 
 #include <functional>
@@ -8,11 +9,11 @@
 #include "check/BlockNotes.h"
 #include "record/ItemReader.h"
 
-/// Reads as ItemReader does.
+/// Reads, and fails, as ItemReader does.
 class NotingReader {
 public:
     /// `theEnd` is called with the number of a block (0 for the header) once the first item of the
-    /// next has been read; it is to take the notes.
+    /// next block has been read. It must move the notes out.
     NotingReader(std::streambuf& stream, std::function<void(int block)> theEnd)
         : in(stream), endOfBlock(std::move(theEnd)) {}
 
@@ -23,27 +24,27 @@ public:
         in.Read(value);
         notes.SetLine(place.item, in.Line());
         if (!in.Plain()) {
-            Look(static_cast<double>(value), std::is_integral_v<Number>);
+            CompareNumber(static_cast<double>(value), std::is_integral_v<Number>);
         }
     }
     std::int64_t Line() const { return in.Line(); }
 
-    /// After the last item: what ItemReader says of what follows it.
+    /// To be called after the last item; see ItemReader.
     std::int64_t LineOfTrailingText() { return in.LineOfTrailingText(); }
 
-    /// Ends the last block that was read whole.
+    /// Calls `theEnd` for the last complete block.
     void EndBlock(int block);
 
     ItemPlace place;  // of the item that is being read
     BlockNotes notes;
 
 private:
-    void Look(double value, bool isWhole);
-    void Settle();
-    void Watch();
+    void CompareNumber(double value, bool isWhole);
+    void NoteDropped();
+    void Remember();
 
     ItemReader in;
     std::function<void(int block)> endOfBlock;
-    bool afterQuote = false;  // what came after the item in quotes is not looked at yet
-    ItemPlace quoted;         // that item
+    bool afterQuote = false;  // text after the quoted item is not checked yet
+    ItemPlace quoted;         // the place of that item
 };

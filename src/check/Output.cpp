@@ -8,7 +8,7 @@
 
 namespace {
 
-// Returns 0, or why not all of it was written.
+// Returns 0, or the error number of the write that failed.
 int WriteAll(int descriptor, std::string_view text) {
     while (!text.empty()) {
         const ssize_t written = write(descriptor, text.data(), text.size());

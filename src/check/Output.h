@@ -6,26 +6,27 @@
 #include <string>
 #include <string_view>
 
-/// Whether a descriptor is a terminal that takes control sequences.
+/// Whether a descriptor is a terminal that understands control sequences.
 bool IsTerminal(int descriptor);
 
-/// Writes to standard output, and shows on standard error how far the work is: only where that is a
-/// terminal, and not in the first second. One thread at a time may use it.
+/// Writes to standard output, and shows progress on standard error if that is a terminal, after the
+/// first second. Only one thread at a time may use it.
 class Output {
 public:
-    /// Without `progress` there is no such line.
+    /// Without `progress` no progress is shown.
     explicit Output(bool progress);
     ~Output() { ClearProgress(); }
     Output(const Output&) = delete;
     Output& operator=(const Output&) = delete;
 
-    /// After a write that failed nothing more is written.
+    /// Does nothing after a failed write.
     void Write(std::string_view text);
     bool Failed() const { return failure != 0; }
 
-    /// Why a write failed, for the user; empty where nobody reads any more.
+    /// Why a write failed, for the user; empty if the other end of a pipe is closed.
     std::string Failure() const;
 
+    /// Shows how many records are done, at most five times a second.
     void ShowProgress(std::size_t done, std::size_t all);
 
 private:
@@ -37,5 +38,5 @@ private:
     bool onTerminal;       // standard output
     bool isShown = false;  // the progress line
     int failure = 0;
-    Clock::time_point next;  // when the line is due
+    Clock::time_point next;  // of the progress line
 };

@@ -9,12 +9,11 @@ namespace {
 
 using P = PhaseRecord;
 
-// A field that holds a code or a flag: whether the one of a phase means nothing, and what is said
-// of it.
+// A field that holds a code or a flag, when its value means nothing, and the warning about it.
 struct Code {
     const PhaseField& field;
     bool (*isUnknown)(const PhaseRecord& phase);
-    std::string_view message;  // what follows the code
+    std::string_view message;  // what follows the value
 };
 
 template <auto Flag>

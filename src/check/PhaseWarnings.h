@@ -1,4 +1,5 @@
-// Numbers of a phase that the form reads otherwise than they look, or would not take.
+// Warnings about numbers of a phase that mean nothing or that the form would change. Limits that
+// Save checks are in Limits.
 #pragma once
 
 #include <functional>
@@ -6,8 +7,8 @@
 
 #include "record/PhaseFields.h"
 
-/// Reports codes that stand for nothing, flags other than 0 and 1, and numbers outside the range of
-/// their box in fields that the phase uses; in the order of the table of fields.
+/// Calls `warn` for codes without a meaning and flags other than 0 and 1, then for numbers outside
+/// the range of their box in fields that the phase uses.
 void WarnOfNumbers(
     const PhaseRecord& phase,
     const std::function<void(const PhaseField& field, const std::string& message)>& warn);

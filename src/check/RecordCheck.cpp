@@ -29,7 +29,7 @@ std::string_view Trimmed(std::string_view message) {
     return message;
 }
 
-// In one pass, which ends at once for a phase that passes.
+// A quick test, as most phases pass; AllFaults is slower.
 bool Passes(const PhaseRecord& phase, const FlowRow& flows, Integer scale) {
     try {
         return !FirstFault(phase, flows, scale);
@@ -57,19 +57,20 @@ void RecordCheck::Run(std::streambuf& source, const FindingSink& sink) {
     }
     const ItemPlace& place = result.failure->place;
     if (place.phase > 0 && place.item == ItemPlace::EmptyLine) {
-        reader.EndBlock(place.phase - 1);  // it was read whole, but the next has no first item
+        reader.EndBlock(place.phase - 1);  // it is complete, but the next has no first item
     }
     sink(ErrorOf(*result.failure, PhaseCount()));
 }
 
-// A device that fails after the record is nothing to the form.
+// A device that fails after the last item is only a warning: the form never reads that far.
 void RecordCheck::End(NotingReader& reader, const FindingSink& sink) {
-    Finding rest{.message = "what follows the last item is not read"};
+    Finding rest{.message = "text after the last item is not read"};
     try {
         rest.line = reader.LineOfTrailingText();
     } catch (const std::system_error& error) {
-        rest = {.line = reader.Line(),
-                .message = "what follows the last item cannot be read: " + error.code().message()};
+        rest = {
+            .line = reader.Line(),
+            .message = "the file cannot be read after the last item: " + error.code().message()};
     }
     reader.EndBlock(PhaseCount());
     if (rest.line != 0) {
@@ -79,11 +80,11 @@ void RecordCheck::End(NotingReader& reader, const FindingSink& sink) {
 
 void RecordCheck::EndBlock(NotingReader& reader, int block, const FindingSink& sink) {
     const int items = block == 0 ? ItemPlace::RecordScale + 1 : ItemsOf(state->LoadedPhases[block]);
-    const bool labelled = reader.notes.TakeInto(findings, block, items);
+    const bool labelled = reader.notes.MoveInto(findings, block, items);
     if (block == 0) {
-        LookAtHeader(reader, labelled);
+        CheckHeader(reader, labelled);
     } else {
-        LookAtPhase(reader, block, labelled);
+        CheckPhase(reader, block, labelled);
     }
     std::stable_sort(findings.begin(), findings.end(), [](const Finding& a, const Finding& b) {
         return a.place.item < b.place.item;
@@ -92,14 +93,14 @@ void RecordCheck::EndBlock(NotingReader& reader, int block, const FindingSink& s
     findings.clear();
 }
 
-void RecordCheck::LookAtHeader(const NotingReader& reader, bool warns) {
+void RecordCheck::CheckHeader(const NotingReader& reader, bool warns) {
     const Integer scale = state->RecordScale;
     if (warns && std::find(Scales.begin(), Scales.end(), scale) == Scales.end()) {
         const std::string text = ItemText(scale);
         Add(reader, {0, ItemPlace::RecordScale},
             {.message =
                  text + (scale == ScaleCode::NotSet ? " is judged as 20"
-                                                    : " is none of the scales 4, 20 and 100"),
+                                                    : " is not one of the scales 4, 20 and 100"),
              .value = text});
     }
     if (!IsStorable(state->StratFile)) {
@@ -110,7 +111,7 @@ void RecordCheck::LookAtHeader(const NotingReader& reader, bool warns) {
     }
 }
 
-void RecordCheck::LookAtPhase(const NotingReader& reader, int number, bool warns) {
+void RecordCheck::CheckPhase(const NotingReader& reader, int number, bool warns) {
     const PhaseRecord& phase = state->LoadedPhases[number];
     const FlowRow& flows = state->LoadedFlows[number];
     if (warns) {

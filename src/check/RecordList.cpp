@@ -32,8 +32,8 @@ RecordName File(std::string name, const fs::file_status& status, const std::erro
     return {std::move(name), fs::is_regular_file(status) ? "" : "not a regular file"};
 }
 
-// Collects the records of a folder, and the folders in it, whose turn comes later: so only one is
-// open at a time, however deep they are.
+// Collects the records of a folder and all folders below it. Subfolders are listed later, so that
+// only one folder is open at a time, however deep they are.
 class FolderWalk {
 public:
     explicit FolderWalk(std::string top) { folders.push_back(std::move(top)); }
@@ -101,7 +101,7 @@ std::vector<RecordName> ListRecords(const std::vector<std::string>& names) {
     return records;
 }
 
-// A name that has become a pipe since it was listed is not waited for.
+// Does not wait on a file that has become a pipe since it was listed.
 std::unique_ptr<std::streambuf> OpenRecord(const std::string& name) {
     if (name == StandardInput) {
         return std::make_unique<FileSource>(STDIN_FILENO);

@@ -6,20 +6,20 @@
 #include <string>
 #include <vector>
 
-/// A record to check, or a name under which there is none to be read.
+/// A record to check, or a name that cannot be read as a record.
 struct RecordName {
     std::string name;
-    std::string problem = {};  // why it cannot be read, in words for the user; empty if it can
+    std::string problem = {};  // why it cannot be read, for the user; empty if it can
 };
 
 /// The name of standard input.
 constexpr const char* StandardInput = "-";
 
-/// Lists the records of each name in turn. Those of a folder are all files below it that end in
-/// .rec, in any case, by the bytes of their paths; links to folders are not followed. What is no
-/// regular file, a folder that cannot be listed and one without records are listed with the
+/// Lists the records of each name in turn. For a folder these are all files below it that end in
+/// .rec, in any case, sorted by the bytes of their paths; links to folders are not followed. A file
+/// that is not regular, a folder that cannot be read and one without records are listed with the
 /// problem.
 std::vector<RecordName> ListRecords(const std::vector<std::string>& names);
 
-/// Opens a record that was listed without a problem. Throws std::system_error.
+/// Opens a record that was listed without a problem. Throws std::system_error on failure.
 std::unique_ptr<std::streambuf> OpenRecord(const std::string& name);

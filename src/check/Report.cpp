@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "check/JsonForm.h"
+#include "check/JsonReport.h"
 #include "check/Wording.h"
 
 void Tally::Count(Verdict verdict) {
@@ -27,9 +27,9 @@ std::string Tally::Summary() const {
 
 int Tally::Status() const { return unreadable != 0 ? 2 : invalid != 0 ? 1 : 0; }
 
-Report::Report(const ReportForm& theForm, std::string_view recordName)
-    : form(theForm), name(recordName) {
-    if (form.json && !form.quiet) {
+Report::Report(const ReportOptions& theOptions, std::string_view recordName)
+    : options(theOptions), name(recordName) {
+    if (options.json && !options.quiet) {
         text = JsonStart(name);
     }
 }
@@ -37,22 +37,22 @@ Report::Report(const ReportForm& theForm, std::string_view recordName)
 void Report::Add(const Finding& finding) {
     const Verdict meant = finding.level == Level::Error     ? Verdict::Unreadable
                           : finding.level == Level::Invalid ? Verdict::Invalid
-                          : form.strict                     ? Verdict::Invalid
+                          : options.strict                  ? Verdict::Invalid
                                                             : Verdict::Passes;
     verdict = std::max(verdict, meant);
-    if (form.quiet) {
+    if (options.quiet) {
         return;
     }
-    if (form.json) {
+    if (options.json) {
         text += std::exchange(first, false) ? "" : ",";
         text += JsonOf(finding);
     } else {
-        text += TextLine(name, finding, form.coloured);
+        text += TextLine(name, finding, options.coloured);
     }
 }
 
 void Report::End(int phaseCount) {
-    if (form.json && !form.quiet) {
+    if (options.json && !options.quiet) {
         text += JsonEnd(phaseCount, verdict);
     }
 }

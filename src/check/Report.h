@@ -1,4 +1,5 @@
-// What is said of a record, as text or as JSON, while it is being checked.
+// The report on a record, as text or as JSON, which grows while the record is checked. How a
+// finding is worded is in Wording and JsonReport.
 #pragma once
 
 #include <string>
@@ -6,15 +7,15 @@
 
 #include "check/Finding.h"
 
-/// What of the findings is said, and how.
-struct ReportForm {
+/// The format of a report, and what counts as invalid.
+struct ReportOptions {
     bool json = false;
-    bool quiet = false;   // nothing is said
+    bool quiet = false;   // reports are empty
     bool strict = false;  // a warning makes a record invalid
     bool coloured = false;
 };
 
-/// How many records came out as what.
+/// The number of records with each verdict.
 struct Tally {
     int passes = 0;
     int invalid = 0;
@@ -22,26 +23,29 @@ struct Tally {
 
     void Count(Verdict verdict);
 
-    /// The line after all records, with its line end.
+    /// The last line of the output, with its line end.
     std::string Summary() const;
 
-    /// What the program ends with.
+    /// The exit status: 2 if a record is unreadable, otherwise 1 if one is invalid, otherwise 0.
     int Status() const;
 };
 
-/// The report on one record. `text` is what is still to be printed; whoever prints it takes it out.
+/// The report on one record. `text` is the part that has not been printed yet; whoever prints it
+/// empties it.
 class Report {
 public:
-    Report(const ReportForm& theForm, std::string_view recordName);
+    /// Keeps references to both.
+    Report(const ReportOptions& theOptions, std::string_view recordName);
 
     void Add(const Finding& finding);
+    /// Completes the report. `phaseCount` is how many phases the record says it has.
     void End(int phaseCount);
     Verdict Result() const { return verdict; }
 
     std::string text;
 
 private:
-    const ReportForm& form;
+    const ReportOptions& options;
     std::string_view name;
     Verdict verdict = Verdict::Passes;
     bool first = true;  // no finding yet

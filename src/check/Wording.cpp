@@ -28,9 +28,9 @@ std::string Escape(char c) {
     return code.data();
 }
 
-// Controls, marks that turn the direction of writing, and other characters without a look of their
-// own: from and to the last.
-constexpr std::array<std::array<std::string_view, 2>, 8> Unseen{{
+// Ranges, first and last, of invisible characters: controls, direction marks, zero-width characters
+// and tags.
+constexpr std::array<std::array<std::string_view, 2>, 8> Invisible{{
     {"\xC2\x80", "\xC2\x9F"},
     {"\xC2\xAD", "\xC2\xAD"},
     {"\xD8\x9C", "\xD8\x9C"},
@@ -41,20 +41,20 @@ constexpr std::array<std::array<std::string_view, 2>, 8> Unseen{{
     {"\xF3\xA0\x80\x80", "\xF3\xA0\x81\xBF"},
 }};
 
-// A character is one byte, or several in UTF-8.
-bool IsUnseen(std::string_view character) {
+// `character` is one character in UTF-8, or a byte that is not UTF-8.
+bool IsInvisible(std::string_view character) {
     const auto holds = [character](const auto& range) {
         return character.size() == range[0].size() && character >= range[0] &&
                character <= range[1];
     };
     return character.size() == 1 ? IsControl(character.front())
-                                 : std::any_of(Unseen.begin(), Unseen.end(), holds);
+                                 : std::any_of(Invisible.begin(), Invisible.end(), holds);
 }
 
-// In a quoted text; a byte that is not UTF-8 is not.
-bool IsSeen(std::string_view character) {
+// Whether quoted text shows a character as it is; a byte that is not UTF-8 is escaped.
+bool IsShownAsIs(std::string_view character) {
     const bool isByte = character.size() == 1 && static_cast<unsigned char>(character[0]) >= 0x80;
-    return !isByte && !IsUnseen(character) && character != "\"" && character != "\\";
+    return !isByte && !IsInvisible(character) && character != "\"" && character != "\\";
 }
 
 std::string Escape(std::string_view character) {
@@ -71,7 +71,7 @@ std::string_view TakeCharacter(std::string_view& text) {
     return character;
 }
 
-// One unit of the last digit that a record has of the numbers just below this one.
+// One unit in the last digit that a record keeps of the numbers just below this one.
 double LastDigit(double number) {
     const double below = std::nextafter(number, -std::numeric_limits<double>::infinity());
     return std::pow(10, std::floor(std::log10(std::abs(below))) + 1 - SignificantDigits);
@@ -93,7 +93,7 @@ std::string_view Colour(Level level) {
                                      : "\033[1;35m";
 }
 
-// The last value that would pass on the side on which the value fails.
+// The last value that would pass, on the side where the value fails.
 std::string LimitText(const Finding& finding) {
     const Single value = NumberOf(finding.value);
     const auto& [lowest, highest] = finding.passing;
@@ -135,7 +135,7 @@ std::string Quoted(std::string_view text) {
             return quoted + "\"...";
         }
         const std::string_view character = TakeCharacter(text);
-        quoted += IsSeen(character) ? std::string(character) : Escape(character);
+        quoted += IsShownAsIs(character) ? std::string(character) : Escape(character);
     }
     return quoted + '"';
 }
@@ -144,7 +144,7 @@ std::string OneLine(std::string_view name) {
     std::string line;
     while (!name.empty()) {
         const std::string_view character = TakeCharacter(name);
-        line += IsUnseen(character) ? Escape(character) : std::string(character);
+        line += IsInvisible(character) ? Escape(character) : std::string(character);
     }
     return line;
 }

@@ -1,4 +1,4 @@
-// Findings in words: the lines of the text form, and the texts and numbers in them.
+// Findings as lines of text, and the texts and numbers in them. JSON is in JsonReport.
 #pragma once
 
 #include <string>
@@ -7,26 +7,25 @@
 #include "check/Finding.h"
 #include "record/RecordFile.h"
 
-/// A text from a file in double quotes: what cannot be seen is escaped, and after 40 characters it
-/// is cut.
+/// Text from a file in double quotes. Quotes, backslashes, invisible characters and bytes that are
+/// not UTF-8 are escaped; text of more than 40 characters is cut.
 std::string Quoted(std::string_view text);
 
-/// A name of a file on one line: what cannot be seen is escaped, all else is as it is.
+/// A file name on one line. Invisible characters are escaped, all other bytes are unchanged.
 std::string OneLine(std::string_view name);
 
-/// A value that was read, as the writer writes it or, where that is another value, with all its
-/// digits.
+/// A value as the writer writes it, or with all its digits if that would read back as another
+/// value.
 std::string ValueText(Single value);
 
-/// The last number on the passing side of a limit that a record can have, as text: one that reads
-/// back to a value that passes.
+/// A limit as text: the closest number on its passing side that a record can hold.
 std::string HighestText(Single highest);
 std::string LowestText(Single lowest);
 
-/// What was wrong with a record that could not be read, `phaseCount` being what was read of it.
+/// The error of a record that could not be read. `phaseCount` is how many phases it says it has.
 Finding ErrorOf(const ReadFailure& failure, int phaseCount);
 
-/// The line of a finding, with its line end.
+/// The line of a finding, with its line end; `coloured` adds control sequences of a terminal.
 std::string TextLine(std::string_view name, const Finding& finding, bool coloured = false);
 
 /// The line for a record that could not be read, without a line end.

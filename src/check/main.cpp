@@ -1,4 +1,4 @@
-// tephrexcheck: the command line, and nothing else.
+// tephrexcheck: the command line. The checks are in CheckRun and below.
 
 #include <unistd.h>
 
@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr int WrongUse = 2;
+constexpr int Failed = 2;
 
 struct Options {
     std::vector<std::string> names;
@@ -26,26 +26,26 @@ struct Options {
 };
 
 void Describe(CLI::App& app, Options& options) {
-    app.set_help_flag("-h,--help", "Show this help and end");
+    app.set_help_flag("-h,--help", "Show this help and exit");
     app.set_version_flag("-V,--version", "tephrexcheck " TEPHREX_VERSION,
-                         "Show the version and end");
+                         "Show the version and exit");
     app.add_option("RECORD", options.names,
                    "A file, a folder (every *.rec below it), or - for standard input")
         ->required();
     app.add_option("-j,--jobs", options.jobs, "How many records to check at a time")
         ->check(CLI::Range(1, 1024))
         ->capture_default_str();
-    app.add_flag("--json", options.json, "Print one JSON object a record, each on a line");
-    app.add_flag("-q,--quiet", options.quiet, "Print nothing: the exit status alone");
+    app.add_flag("--json", options.json, "Print one JSON object per record, each on one line");
+    app.add_flag("-q,--quiet", options.quiet, "Print nothing; only set the exit status");
     app.add_flag("--strict", options.strict, "Count a record with warnings as invalid");
     app.footer(
         "Exit status: 0 if all records pass, 1 if one is invalid, 2 if one cannot be read or the\n"
         "command line is wrong.");
 }
 
-// The arguments, the last first. The parser takes one in brackets for a list: a byte that no
-// argument can have hides the bracket, until the names are there.
-std::vector<std::string> Hidden(int argc, char** argv) {
+// The arguments in reverse order, as the parser expects them. It reads an argument in brackets as a
+// list; a zero byte, which no argument contains, hides the bracket until Parse removes it.
+std::vector<std::string> HideBrackets(int argc, char** argv) {
     std::vector<std::string> arguments;
     for (int i = argc - 1; i > 0; --i) {
         arguments.emplace_back(argv[i]);
@@ -55,7 +55,7 @@ std::vector<std::string> Hidden(int argc, char** argv) {
 }
 
 void Parse(CLI::App& app, Options& options, int argc, char** argv) {
-    std::vector<std::string> arguments = Hidden(argc, argv);
+    std::vector<std::string> arguments = HideBrackets(argc, argv);
     app.parse(arguments);
     for (std::string& name : options.names) {
         name = name.c_str();
@@ -69,10 +69,11 @@ bool MayColour() {
 
 int Run(const Options& options) {
     std::signal(SIGPIPE, SIG_IGN);  // a closed pipe is a write that fails
-    const ReportForm form{options.json, options.quiet, options.strict,
-                          !options.json && MayColour()};
+    const ReportOptions reportOptions{options.json, options.quiet, options.strict,
+                                      !options.json && MayColour()};
     Output output(!options.quiet);
-    const Tally tally = CheckRecords(ListRecords(options.names), options.jobs, form, output);
+    const Tally tally =
+        CheckRecords(ListRecords(options.names), options.jobs, reportOptions, output);
     if (!options.json && !options.quiet) {
         output.Write(tally.Summary());
     }
@@ -80,7 +81,7 @@ int Run(const Options& options) {
         if (!output.Failure().empty()) {
             std::cerr << "tephrexcheck: standard output: " << output.Failure() << '\n';
         }
-        return 2;
+        return Failed;
     }
     return tally.Status();
 }
@@ -98,11 +99,11 @@ int main(int argc, char** argv) {
             Parse(app, options, argc, argv);
         } catch (const CLI::ParseError& error) {
             const bool asked = app.exit(error) == 0;  // for the help or the version
-            return asked && std::cout.flush() ? 0 : WrongUse;
+            return asked && std::cout.flush() ? 0 : Failed;
         }
         return Run(options);
     } catch (const std::exception& error) {
         std::cerr << "tephrexcheck: " << error.what() << '\n';
-        return WrongUse;
+        return Failed;
     }
 }

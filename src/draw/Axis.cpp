@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "display/Limits.h"
-#include "draw/Signs.h"
+#include "draw/Symbols.h"
 
 namespace {
 
@@ -13,7 +13,7 @@ struct Tick {
     QString label;
 };
 
-// The distance of neighbouring ticks: 1, 2 or 5 with so many zeros, at least `least`.
+// The distance between ticks: 1, 2 or 5 times a power of ten, at least `least`.
 double NiceStep(double least) {
     const double power = std::pow(10, std::floor(std::log10(least)));
     for (const double step : {1.0, 2.0, 5.0}) {

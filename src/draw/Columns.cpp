@@ -17,10 +17,10 @@ void ForEachPhase(const EditorState& record, Visit visit) {
     }
 }
 
-double WidestOf(const QStringList& lines, Lettering& lettering, const Letters& letters) {
+double WidestOf(const QStringList& lines, Lettering& lettering, const TextStyle& style) {
     double widest = 0;
     for (const QString& line : lines) {
-        widest = std::max(widest, lettering.Width(line, letters));
+        widest = std::max(widest, lettering.Width(line, style));
     }
     return widest;
 }
@@ -45,7 +45,7 @@ double WidestNumber(const EditorState& record, Lettering& lettering) {
     return widest;
 }
 
-// Sets the columns to the right of the map, from the right, and where the map ends.
+// Sets the columns right of the map, starting with the last, and where the map ends.
 void SetRightColumns(const EditorState& record, const Contents& contents, Lettering& lettering,
                      Columns& columns) {
     constexpr double gap = 2;

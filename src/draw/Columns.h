@@ -1,5 +1,5 @@
-// The columns of a picture, left to right: number and type, the map, numbers and flows, faults. How
-// wide each is, and what a location is on the page.
+// The columns of a picture, left to right: number and type, the map, numbers and flows, faults.
+// Their widths, and where a location is on the page. What is drawn in them is in Axis and Rows.
 #pragma once
 
 #include "draw/Lettering.h"
@@ -9,19 +9,19 @@ namespace Sheet {
 constexpr double Margin = 4;
 constexpr double RowHeight = 8;
 constexpr double Ground = 2.5;  // above the bottom of a row
-constexpr double MapGap = 4.4;  // on both sides of the map, for a sign at its edge
-constexpr Letters Plain{2.4};
-constexpr Letters Small{2.1};
-constexpr Letters Quiet{2.1, 0xFF606060};
+constexpr double MapGap = 4.4;  // on both sides of the map, for a symbol at its edge
+constexpr TextStyle Plain{2.4};
+constexpr TextStyle Small{2.1};
+constexpr TextStyle Quiet{2.1, 0xFF606060};
 constexpr double LineHeight = 2.8;
 constexpr double WidestBar = 1.6;  // of a flow, with its gap
 }  // namespace Sheet
 
-/// What a picture shows of a record in every phase or in none.
+/// Which optional columns a picture has. All rows have the same columns.
 struct Contents {
     bool flux = false;
     bool bursts = false;
-    int flows = 0;  // the most of a phase
+    int flows = 0;  // the largest number in a phase
     bool refused = false;
 };
 
@@ -40,20 +40,22 @@ struct Columns {
     Integer scale;  // of the record, not 0
 
     double End() const { return width - Sheet::Margin; }
-    /// The place of a location, on the page or off the map.
+    /// Where a location is on the page, in millimetres from the left; possibly off the map.
     double PlaceOf(double location) const;
-    /// The same, put on the edge of the map if it is off it.
+    /// The same, moved to the edge of the map if it is off the map.
     double OnMap(double location) const;
 };
 
-/// The scale by which a record is drawn: that of a new record if it has none.
+/// The scale at which a record is drawn: that of a new record if it has none.
 constexpr Integer ScaleOf(const EditorState& record) {
     return record.RecordScale == ScaleCode::NotSet ? ScaleCode::Normal : record.RecordScale;
 }
 
-/// The name of the type of a phase in one or two lines.
+/// The name of the type of a phase, one word a line; also if there is no type or an unknown one.
 QStringList TypeName(const PhaseRecord& phase);
 
+/// All but `refused`, which depends on the limits.
 Contents ContentsOf(const EditorState& record);
+/// The columns of a page of that width, as wide as the texts of the record need.
 Columns ColumnsOf(const EditorState& record, const Contents& contents, double width,
                   Lettering& lettering);

@@ -7,10 +7,10 @@
 
 namespace {
 
-// Names are bytes and go through the parser as characters of the same numbers, so that one that is
-// no text comes out as it went in.
-QString Carried(const char* bytes) { return QString::fromLatin1(bytes); }
-std::string Bytes(const QString& carried) { return carried.toLatin1().toStdString(); }
+// File names are bytes. The parser gets each byte as the character with the same number, so that a
+// name that is not valid text is unchanged.
+QString FromBytes(const char* bytes) { return QString::fromLatin1(bytes); }
+std::string ToBytes(const QString& characters) { return characters.toLatin1().toStdString(); }
 
 struct Range {
     double least;
@@ -21,11 +21,11 @@ double NumberOf(const QCommandLineParser& parser, const QCommandLineOption& opti
     bool isNumber = false;
     const double number = parser.value(option).toDouble(&isNumber);
     if (!isNumber || !(number >= range.least && number <= range.most)) {
-        throw WrongUse(QString("--%1 is a number from %2 to %3")
-                           .arg(option.names().back())
-                           .arg(range.least)
-                           .arg(range.most)
-                           .toStdString());
+        throw UsageError(QString("--%1 must be a number from %2 to %3")
+                             .arg(option.names().back())
+                             .arg(range.least)
+                             .arg(range.most)
+                             .toStdString());
     }
     return number;
 }
@@ -43,15 +43,15 @@ PictureFormat FormatOf(const QString& output) {
             return ending.format;
         }
     }
-    throw WrongUse("the name of the picture ends in .svg, .png or .pdf");
+    throw UsageError("the name of the picture must end in .svg, .png or .pdf");
 }
 
 struct CommandLine {
-    QCommandLineOption help{{"h", "help"}, "Show this help and end."};
-    QCommandLineOption version{{"V", "version"}, "Show the version and end."};
+    QCommandLineOption help{{"h", "help"}, "Show this help and exit."};
+    QCommandLineOption version{{"V", "version"}, "Show the version and exit."};
     QCommandLineOption output{
         {"o", "output"},
-        "Draw into FILE, by its ending .svg, .png or .pdf; without it, SVG on standard output.",
+        "Draw into FILE, which ends in .svg, .png or .pdf; by default, SVG on standard output.",
         "FILE"};
     QCommandLineOption width{"width", "Width in millimetres, 120 to 2000.", "MM", "180"};
     QCommandLineOption dpi{"dpi", "Dots per inch of a PNG, 10 to 2400.", "DPI", "200"};
@@ -64,22 +64,22 @@ struct CommandLine {
         parser.addOptions({help, version, output, width, dpi});
         QStringList arguments;
         for (int i = 0; i < argc; ++i) {
-            arguments += Carried(argv[i]);
+            arguments += FromBytes(argv[i]);
         }
         if (!parser.parse(arguments)) {
-            throw WrongUse(Bytes(parser.errorText()));
+            throw UsageError(ToBytes(parser.errorText()));
         }
     }
 };
 
-DrawOptions PictureOf(const CommandLine& line) {
+DrawOptions DrawingOptions(const CommandLine& line) {
     if (line.parser.positionalArguments().size() != 1) {
-        throw WrongUse("name one record; --help shows how");
+        throw UsageError("name one record; --help shows how");
     }
     DrawOptions options;
-    options.record = Bytes(line.parser.positionalArguments().front());
+    options.record = ToBytes(line.parser.positionalArguments().front());
     if (line.parser.isSet(line.output)) {
-        options.output = Bytes(line.parser.value(line.output));
+        options.output = ToBytes(line.parser.value(line.output));
         options.format = FormatOf(line.parser.value(line.output));
     }
     options.width = NumberOf(line.parser, line.width, {NarrowestSheet, 2000});
@@ -97,7 +97,7 @@ DrawOptions OptionsOf(int argc, char** argv) {
     } else if (line.parser.isSet(line.version)) {
         options.answer = "tephrexdraw " TEPHREX_VERSION "\n";
     } else {
-        options = PictureOf(line);
+        options = DrawingOptions(line);
     }
     return options;
 }

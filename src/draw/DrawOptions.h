@@ -10,15 +10,15 @@ struct DrawOptions {
     std::string record;  // bytes, as they are on the command line
     std::string output;  // empty for standard output
     PictureFormat format = PictureFormat::Svg;
-    double width = 0;  // millimetres
-    double dpi = 0;
+    double width = 0;    // millimetres
+    double dpi = 0;      // of a PNG
     std::string answer;  // what to print instead of drawing: the help or the version
 };
 
-/// A command line that cannot be followed, in words for the user.
-struct WrongUse : std::runtime_error {
+/// What is wrong with the command line, for the user.
+struct UsageError : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-/// Throws WrongUse.
+/// Reads the command line of main. Throws UsageError if it is wrong.
 DrawOptions OptionsOf(int argc, char** argv);

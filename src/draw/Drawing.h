@@ -1,5 +1,6 @@
-// What a picture is made of: shapes and texts with their places on pages, and nothing of the device
-// that they are painted on. All lengths are millimetres, from the top left corner of the page.
+// A picture as data: shapes and texts with their places on pages. Nothing here depends on the
+// device that they are painted on. All lengths are millimetres, from the top left corner of the
+// page.
 #pragma once
 
 #include <QPainterPath>
@@ -9,10 +10,10 @@
 #include <QString>
 #include <vector>
 
-/// What a shape is the drawing of.
+/// What a shape shows.
 enum class Mark {
     Frame,  // axes and rules
-    Sign,
+    Symbol,
     OffMap,
     Wind,
     Flows,
@@ -44,19 +45,19 @@ enum class Anchor { Left, Middle, Right };
 
 struct Text {
     QString text;
-    QPointF at;  // on the base line; which point of it says the anchor
+    QPointF at;  // on the baseline: the left end, middle or right end, by the anchor
     Anchor anchor;
     double size;  // of the font
     QRgb colour;
-    QRectF room;  // what the text covers
+    QRectF room;  // the area that the text covers
 };
 
-/// What belongs together: a phase, or the head, axis or legend of a page.
+/// Shapes and texts that belong together: a phase, or the head, axes or legend of a page.
 struct Group {
-    int phase = 0;  // 0 for what belongs to none
+    int phase = 0;  // 0 for a group that is not a phase
     QString title;  // of a phase, for screen readers
     std::vector<Shape> shapes;
-    std::vector<Text> texts;  // above the shapes
+    std::vector<Text> texts;  // painted over the shapes
 };
 
 /// Moves a group down the page.

@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr Letters Heading{3.8};
+constexpr TextStyle Heading{3.8};
 constexpr double HeadGap = 3;
 
 QString ScaleName(Integer scale) {
@@ -17,32 +17,33 @@ QString ScaleName(Integer scale) {
     }
 }
 
-// A name is measured in full length only if it has a chance to fit.
+// A very long name is slow to measure, and cannot fit anyway.
 QString Shortened(const QString& text) {
     constexpr qsizetype most = 1000;
     return text.size() <= most ? text : text.left(most / 2) + text.right(most / 2);
 }
 
-// A line of texts that begins or ends at x. Returns its lower edge: letters of some scripts are
-// taller than the line, and what is next has to keep clear of them.
+// A text that begins or ends at x.
 struct PlacedText {
     QString text;
     double x;
     Anchor anchor;
-    Letters letters;
+    TextStyle style;
 };
 
+// Returns the lower edge of the line: letters of some scripts are taller than the line, and the
+// next one must not touch them.
 double AddLine(const std::vector<PlacedText>& texts, double top, double height, Group& group,
                Lettering& lettering) {
     double above = height * 0.75;
     for (const PlacedText& each : texts) {
-        const Text text = lettering.Put(each.text, {}, each.anchor, each.letters);
+        const Text text = lettering.Put(each.text, {}, each.anchor, each.style);
         above = std::max(above, -text.room.top());
     }
     double bottom = top + above + height * 0.25;
     for (const PlacedText& each : texts) {
         group.texts.push_back(
-            lettering.Put(each.text, {each.x, top + above}, each.anchor, each.letters));
+            lettering.Put(each.text, {each.x, top + above}, each.anchor, each.style));
         bottom = std::max(bottom, group.texts.back().room.bottom());
     }
     return bottom;
@@ -66,7 +67,7 @@ Head HeadOf(const EditorState& record, const QString& name, PageNumber page, con
     constexpr double left = Sheet::Margin;
     constexpr double gap = 3;
     const double right = columns.End();
-    const Letters& letters = page.number == 1 ? Heading : Sheet::Plain;
+    const TextStyle& style = page.number == 1 ? Heading : Sheet::Plain;
     std::vector<PlacedText> line;
     double room = right - left;
     if (page.pages > 1) {
@@ -74,10 +75,10 @@ Head HeadOf(const EditorState& record, const QString& name, PageNumber page, con
         line.push_back({label, right, Anchor::Right, Sheet::Quiet});
         room -= lettering.Width(label, Sheet::Quiet) + gap;
     }
-    line.push_back({lettering.Elided(Shortened(name), Qt::ElideMiddle, room, letters), left,
-                    Anchor::Left, letters});
+    line.push_back({lettering.Elided(Shortened(name), Qt::ElideMiddle, room, style), left,
+                    Anchor::Left, style});
     Head head;
-    head.bottom = AddLine(line, Sheet::Margin, letters.size * 1.3, head.group, lettering);
+    head.bottom = AddLine(line, Sheet::Margin, style.size * 1.3, head.group, lettering);
     if (page.number == 1) {
         const QString summary = SummaryOf(record);
         const QString file =

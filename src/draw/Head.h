@@ -1,5 +1,4 @@
-// The head of a page: the name of the file, and on the first page what there is to say of the whole
-// record.
+// The head of a page: the file name and, on the first page, a summary of the record.
 #pragma once
 
 #include "draw/Columns.h"
@@ -20,6 +19,6 @@ struct Head {
     double bottom = 0;
 };
 
-/// The head of a page. Names are cut to the width of the page.
+/// The head of a page. `name` is that of the file; names too wide for the page are cut.
 Head HeadOf(const EditorState& record, const QString& name, PageNumber page, const Columns& columns,
             Lettering& lettering);

@@ -12,7 +12,7 @@ namespace {
 constexpr double AroundRows = Sheet::AxisHead + Sheet::AxisFoot + Sheet::Margin;
 constexpr double LegendGap = 2;
 
-// What the pages are made from.
+// What the pages are made of.
 struct Parts {
     const EditorState& record;
     QString name;
@@ -55,8 +55,8 @@ void Place(Group group, double top, Page& page) {
     page.groups.push_back(std::move(group));
 }
 
-// The rows from `first` up to before `end`, counted from 0, upwards, and the axes around them;
-// returns where the axes end.
+// Adds the rows from `first` to before `end`, counted from 0, from the bottom up, and the axes
+// around them. Returns the lower edge of the axes.
 double AddRows(Parts& parts, int first, int end, double top, Page& page) {
     const double rowsTop = top + Sheet::AxisHead;
     const double bottom = rowsTop + std::max(1, end - first) * Sheet::RowHeight;
@@ -68,7 +68,7 @@ double AddRows(Parts& parts, int first, int end, double top, Page& page) {
     return bottom + Sheet::AxisFoot;
 }
 
-// A page with the rows from `first` on that fit into `capacity`; the first one has the legend.
+// A page with up to `capacity` rows from `first` on; the first page has the legend.
 Page MakePage(Parts& parts, PageNumber number, int first, int capacity) {
     Page page;
     Head head = parts.HeadOn(number);
@@ -101,8 +101,8 @@ Drawing DrawRecord(const EditorState& record, std::string_view name, SheetSize s
 
     Drawing drawing{parts.name,
                     SummaryOf(record) + ReferenceOf(record) +
-                        ". Each row is a phase, the first at the bottom; from left to right the "
-                        "place on the map.",
+                        ". Each row is a phase, the first at the bottom; from left to right is "
+                        "the location on the map.",
                     {}};
     for (int number = 1, first = 0; number <= pages; ++number) {
         drawing.pages.push_back(MakePage(parts, {number, pages}, first, capacity));

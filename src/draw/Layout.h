@@ -1,5 +1,5 @@
-// A record as a drawing: the head, the axis, a row for each phase from the bottom upwards, the
-// legend, and how they are cut into pages.
+// Draws a record: head, axes, a row for each phase from the bottom up, and legend, divided into
+// pages. What is in these parts is in Head, Axis, Rows and Legend.
 #pragma once
 
 #include <string_view>
@@ -12,8 +12,9 @@ constexpr double NarrowestSheet = 120;
 
 struct SheetSize {
     double width;
-    double tallest;  // of a page; more than any picture where there can be one page only
+    double tallest;  // the maximum height of a page; huge if there may be only one
 };
 
-/// The drawing of the loaded copy. `name` is the file's, as bytes.
+/// Draws the loaded copy. `name` is the file's, as bytes in any encoding. A page is taller than
+/// `sheet.tallest` if that has no room for two rows.
 Drawing DrawRecord(const EditorState& record, std::string_view name, SheetSize sheet);

@@ -4,7 +4,7 @@
 #include <array>
 #include <optional>
 
-#include "draw/Signs.h"
+#include "draw/Symbols.h"
 #include "rules/EruptionTypes.h"
 #include "rules/FieldUse.h"
 
@@ -14,18 +14,18 @@ using P = PhaseRecord;
 
 constexpr double SymbolWidth = 15.5;
 constexpr double EntryHeight = 6.4;
-constexpr double Foot = 5.2;  // of a sign, below the top of its entry
+constexpr double Foot = 5.2;  // of a symbol, below the top of its entry
 
 struct Entry {
     QString text;
-    std::vector<Shape> shapes;  // around the middle of the symbol's room
+    std::vector<Shape> shapes;  // from the top left corner of the entry
 };
 
 using Shapes = std::vector<Shape>;
 
 constexpr QPointF Middle{SymbolWidth / 2, Foot};
 
-// Calls `visit` for each phase until it says true; whether it did.
+// Whether `visit` returns true for any phase.
 template <class Visit>
 bool AnyPhase(const EditorState& record, Visit visit) {
     for (int i = 1; i <= record.LoadedPhaseCount; ++i) {
@@ -84,7 +84,7 @@ Shapes FlowSample() {
             Lined(Mark::Flows, bars, Palette::Grey, 1.2)};
 }
 
-// The sign of a type, or what is drawn in its place.
+// The symbol of a type, or a sample of what is drawn instead.
 Shapes SampleOf(const TypeEntry& type) {
     PhaseRecord phase;
     phase.eruptionType = type.eruptionType;
@@ -98,14 +98,14 @@ Shapes SampleOf(const TypeEntry& type) {
     if (Uses(phase, FieldOf(&P::scarpTop))) {
         return ScarpSample(ColourOf(type.eruptionType));
     }
-    return {SignOf(type.eruptionType, Middle, 4.2)};
+    return {SymbolOf(type.eruptionType, Middle, 4.2)};
 }
 
 QString NameOf(const TypeEntry& type) {
     switch (type.eruptionType) {
         case EruptionType::Tectonic:
-            return type.tectonicKind == TectonicKind::Faulting ? "Faulting; thick: the throw"
-                                                               : "Erosion; a wave a cycle";
+            return type.tectonicKind == TectonicKind::Faulting ? "Faulting; thick part: throw"
+                                                               : "Erosion; one wave per cycle";
         case EruptionType::Collapse: return "Sector Collapse, top to base";
         default: return Named(type.name);
     }
@@ -127,16 +127,16 @@ std::vector<Entry> TypesIn(const EditorState& record) {
     return entries;
 }
 
-// Signs of three strengths, without the colour of a type.
+// Symbols of three strengths, without the colour of a type.
 Shapes StrengthSample() {
     Shapes shapes;
     double x = 0;
     for (const Single strength : {0.1F, 0.5F, 2.0F}) {
-        Shape sign = SignOf(EruptionType::Strombolian, {0, Foot}, SignHeight(strength));
-        sign.path.translate(x - sign.path.boundingRect().left(), 0);
-        sign.style.fill = 0xFFFFFFFF;
-        x = sign.path.boundingRect().right() + 0.5;
-        shapes.push_back(sign);
+        Shape symbol = SymbolOf(EruptionType::Strombolian, {0, Foot}, SymbolHeight(strength));
+        symbol.path.translate(x - symbol.path.boundingRect().left(), 0);
+        symbol.style.fill = 0xFFFFFFFF;
+        x = symbol.path.boundingRect().right() + 0.5;
+        shapes.push_back(symbol);
     }
     return shapes;
 }

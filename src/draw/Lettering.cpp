@@ -21,15 +21,14 @@ QString Decoded(std::string_view bytes) {
     return windows.isValid() ? QString(windows(view)) : QString::fromLatin1(view);
 }
 
-// These letters and signs are no taller than a line; others have to be looked at, which takes
-// longer.
-bool KeepsToLine(QChar character) {
+// These characters are known to be no taller than a line; others are measured, which takes longer.
+bool FitsLine(QChar character) {
     constexpr char16_t minus = 0x2212;
     const char16_t code = character.unicode();
     return code < 0x7F || code == u'\u00E9' || code == minus;
 }
 
-QTextOption OfFont() {
+QTextOption WrapAnywhere() {
     QTextOption option;
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     return option;
@@ -48,40 +47,40 @@ QFont MeasuredFont() {
 const Lettering::TextExtent& Lettering::Measure(const QString& text) {
     auto found = known.find(text);
     if (found == known.end()) {
-        const bool keepsToLine = std::all_of(text.begin(), text.end(), KeepsToLine);
+        const bool fitsLine = std::all_of(text.begin(), text.end(), FitsLine);
         found = known.insert(text, {metrics.horizontalAdvance(text),
-                                    keepsToLine ? lineRoom : metrics.tightBoundingRect(text)});
+                                    fitsLine ? lineBounds : metrics.tightBoundingRect(text)});
     }
     return *found;
 }
 
-double Lettering::Width(const QString& text, const Letters& letters) {
-    return Measure(text).advance * letters.size / MeasuredSize * RoomForOtherFonts;
+double Lettering::Width(const QString& text, const TextStyle& style) {
+    return Measure(text).advance * style.size / MeasuredSize * RoomForOtherFonts;
 }
 
-Text Lettering::Put(const QString& text, QPointF at, Anchor anchor, const Letters& letters) {
+Text Lettering::Put(const QString& text, QPointF at, Anchor anchor, const TextStyle& style) {
     const TextExtent& extent = Measure(text);
-    const double scale = letters.size / MeasuredSize;
+    const double scale = style.size / MeasuredSize;
     const double width = extent.advance * scale;
     const double left = anchor == Anchor::Left ? 0 : anchor == Anchor::Right ? width : width / 2;
     const QRectF room(at.x() - left, at.y() + extent.bounds.top() * scale, width,
                       extent.bounds.height() * scale);
-    return {text, at, anchor, letters.size, letters.colour, room};
+    return {text, at, anchor, style.size, style.colour, room};
 }
 
 QString Lettering::Elided(const QString& text, Qt::TextElideMode mode, double width,
-                          const Letters& letters) {
-    const double measured = width / RoomForOtherFonts * MeasuredSize / letters.size;
+                          const TextStyle& style) {
+    const double measured = width / RoomForOtherFonts * MeasuredSize / style.size;
     return metrics.elidedText(text, mode, measured);
 }
 
-QStringList Lettering::Wrapped(const QString& text, double width, const Letters& letters) {
+QStringList Lettering::Wrapped(const QString& text, double width, const TextStyle& style) {
     QTextLayout layout(text, font);
-    layout.setTextOption(OfFont());
+    layout.setTextOption(WrapAnywhere());
     layout.beginLayout();
     QStringList lines;
     for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
-        line.setLineWidth(width / RoomForOtherFonts * MeasuredSize / letters.size);
+        line.setLineWidth(width / RoomForOtherFonts * MeasuredSize / style.size);
         lines += text.mid(line.textStart(), line.textLength()).trimmed();
     }
     layout.endLayout();
@@ -94,8 +93,8 @@ QString Readable(std::string_view bytes) {
     return text;
 }
 
-QString Label(double number, bool sign) {
+QString Label(double number, bool showsPlus) {
     constexpr int digits = 5;
     const QString plain = QString::number(number, 'g', digits).replace(u'-', u'\u2212');
-    return sign && number > 0 ? u'+' + plain : plain;
+    return showsPlus && number > 0 ? u'+' + plain : plain;
 }

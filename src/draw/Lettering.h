@@ -1,5 +1,5 @@
-// Texts and their extents. There is one font, for each one more takes its time to be found; every
-// size is measured at one size of it and scaled, so that a picture is the same at each resolution.
+// Measures and places texts. There is only one font, as each further one takes time to load. Texts
+// are measured at one size and scaled, so that a picture is the same at each resolution.
 #pragma once
 
 #include <QFont>
@@ -9,36 +9,37 @@
 
 #include "draw/Drawing.h"
 
-/// What a text is allowed to be wider where it is shown than where it was measured.
+/// How much wider a text may be where it is shown than where it was measured.
 constexpr double RoomForOtherFonts = 1.1;
 
 /// The families of the font, in the order of preference, as in a style sheet.
 constexpr const char* FontFamilies = "Helvetica, Arial, sans-serif";
 
-/// The font as it is measured and, scaled by size / MeasuredSize, painted.
+/// The font in which texts are measured and, scaled by size / MeasuredSize, painted.
 constexpr int MeasuredSize = 100;
 QFont MeasuredFont();
 
-struct Letters {
+/// The height of the font in millimetres, and the colour.
+struct TextStyle {
     double size;
     QRgb colour = 0xFF000000;
 };
 
-/// Needs a QGuiApplication.
+/// Measures and places texts. Needs a QGuiApplication.
 class Lettering {
 public:
     /// The width, with room for other fonts.
-    double Width(const QString& text, const Letters& letters);
+    double Width(const QString& text, const TextStyle& style);
 
-    /// A text at a place on its base line.
-    Text Put(const QString& text, QPointF at, Anchor anchor, const Letters& letters);
+    /// A text with its anchor at a point on the baseline.
+    Text Put(const QString& text, QPointF at, Anchor anchor, const TextStyle& style);
 
-    /// The text, cut with an ellipsis if it is wider.
+    /// The text, cut with an ellipsis if it is wider than `width`.
     QString Elided(const QString& text, Qt::TextElideMode mode, double width,
-                   const Letters& letters);
+                   const TextStyle& style);
 
-    /// The text in lines of at most this width; a word that is longer is cut.
-    QStringList Wrapped(const QString& text, double width, const Letters& letters);
+    /// The text in lines of at most this width; longer words are broken.
+    QStringList Wrapped(const QString& text, double width, const TextStyle& style);
 
 private:
     struct TextExtent {
@@ -49,14 +50,13 @@ private:
 
     QFont font = MeasuredFont();
     QFontMetricsF metrics{font};
-    QRectF lineRoom = metrics.tightBoundingRect("Hgj()");  // what its letters cover above and below
+    QRectF lineBounds = metrics.tightBoundingRect("Hgj()");  // of letters and brackets
     QHash<QString, TextExtent> known;
 };
 
-/// The bytes of a name as a text that can be shown on one line: UTF-8, or Windows-1252 if they are
-/// not UTF-8 as a whole, with a visible stand-in for each control character, line end and mark that
-/// turns the direction of writing.
+/// The bytes of a name as text for one line: UTF-8, or Windows-1252 if they are not UTF-8 as a
+/// whole, with U+FFFD for each control character, line end and direction mark.
 QString Readable(std::string_view bytes);
 
-/// A number as a label, with a true minus sign; `sign` also shows a plus.
-QString Label(double number, bool sign = false);
+/// A number as a label of up to five digits, with a true minus sign; `showsPlus` also shows a plus.
+QString Label(double number, bool showsPlus = false);

@@ -49,7 +49,7 @@ void Paint(const Page& page, double dotsPerInch, QPainter& painter) {
     painter.restore();
 }
 
-// The pixels of a page. Beyond the painter's last coordinate nothing would be painted.
+// The size of a page in pixels. The painter paints nothing beyond `longest`.
 QSize PixelsOf(const Page& page, double dotsPerInch) {
     constexpr double longest = 32767;
     constexpr double most = 1 << 28;  // a gigabyte
@@ -67,7 +67,7 @@ QByteArray PngOf(const Drawing& drawing, double dotsPerInch) {
     const Page& page = drawing.pages.front();
     QImage image(PixelsOf(page, dotsPerInch), QImage::Format_RGB32);
     if (image.isNull()) {
-        throw PaintError("the picture has more pixels than there is memory; try a smaller --dpi");
+        throw PaintError("the picture needs more memory than there is; try a smaller --dpi");
     }
     image.fill(Qt::white);
     image.setDotsPerMeterX(qRound(dotsPerInch / MillimetresPerInch * 1000));
@@ -78,7 +78,7 @@ QByteArray PngOf(const Drawing& drawing, double dotsPerInch) {
     QByteArray bytes;
     QBuffer target(&bytes);
     if (!image.save(&target, "PNG")) {
-        throw PaintError("the picture cannot be made a PNG");
+        throw PaintError("the picture cannot be converted to PNG");
     }
     return bytes;
 }

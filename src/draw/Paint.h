@@ -1,4 +1,4 @@
-// A drawing put onto paper or pixels by the toolkit's painter.
+// Paints a drawing as PNG or PDF with the toolkit's painter. SVG is in Svg.
 #pragma once
 
 #include <QByteArray>
@@ -6,12 +6,12 @@
 
 #include "draw/Drawing.h"
 
-/// Why a drawing cannot be painted, in words for the user.
+/// Why a drawing cannot be painted, for the user.
 struct PaintError : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-/// The first page as PNG. Throws PaintError if it has more pixels than the painter can hold.
+/// The first page as PNG. Throws PaintError if it has more pixels than can be painted.
 QByteArray PngOf(const Drawing& drawing, double dotsPerInch);
 
 /// All pages as PDF.

@@ -1,11 +1,11 @@
-// What Save would say of a phase.
+// Why Save would refuse a phase.
 #pragma once
 
 #include <QString>
 
 #include "record/PhaseRecord.h"
 
-/// The message that Save would show, and how many faults the phase has; none if it passes.
+/// The message that Save would show, and how many faults the phase has; empty and 0 if it passes.
 struct Refusal {
     QString message;
     int faults = 0;

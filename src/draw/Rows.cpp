@@ -6,7 +6,7 @@
 #include <stdexcept>
 
 #include "display/LimitTests.h"
-#include "draw/Signs.h"
+#include "draw/Symbols.h"
 #include "rules/EruptionTypes.h"
 #include "rules/FieldUse.h"
 #include "rules/FlowDurations.h"
@@ -15,7 +15,7 @@ namespace {
 
 using P = PhaseRecord;
 
-// What is made a row of.
+// A phase, and what its row is drawn with.
 struct Row {
     const PhaseRecord& phase;
     const FlowRow& flows;
@@ -31,10 +31,10 @@ struct Row {
         }
     }
     void Write(const QString& text, double x, double y, Anchor anchor,
-               const Letters& letters = Sheet::Plain) const {
-        group.texts.push_back(lettering.Put(text, {x, y}, anchor, letters));
+               const TextStyle& style = Sheet::Plain) const {
+        group.texts.push_back(lettering.Put(text, {x, y}, anchor, style));
     }
-    // The base line of the first of so many lines around the middle of the row.
+    // The baseline of the first of so many lines, which are centred in the row.
     double FirstLine(qsizetype lines) const {
         return top + Sheet::RowHeight / 2 + 0.85 -
                static_cast<double>(lines - 1) * Sheet::LineHeight / 2;
@@ -48,10 +48,10 @@ bool Uses(const Row& row) {
     return Uses(row.phase, FieldOf(Member));
 }
 
-void WriteLines(const Row& row, const QStringList& lines, double x, const Letters& letters) {
+void WriteLines(const Row& row, const QStringList& lines, double x, const TextStyle& style) {
     double y = row.FirstLine(lines.size());
     for (const QString& line : lines) {
-        row.Write(line, x, y, Anchor::Left, letters);
+        row.Write(line, x, y, Anchor::Left, style);
         y += Sheet::LineHeight;
     }
 }
@@ -62,7 +62,7 @@ void AddName(const Row& row, int number) {
 }
 
 double HeightOf(const Row& row) {
-    return Uses<&P::strength>(row) ? SignHeight(row.phase.strength) : PlainSignHeight;
+    return Uses<&P::strength>(row) ? SymbolHeight(row.phase.strength) : PlainSymbolHeight;
 }
 
 void AddOffMap(const Row& row, Single location) {
@@ -95,8 +95,8 @@ void AddStructure(const Row& row) {
                                    Uses<&P::calderaStyle>(row) ? phase.calderaStyle : Integer{0}));
 }
 
-// Where the wind's arrow begins and how long it is. It is on the side that it blows to or, where
-// the map ends there, on the other side.
+// Where the wind's arrow begins and how long it is. It is downwind of the vent or, where the map
+// has no room for it, upwind.
 struct WindPlace {
     double from;
     double length;  // with the sign of the wind
@@ -106,23 +106,23 @@ struct WindPlace {
 WindPlace PlaceWind(const Row& row, double labelWidth) {
     constexpr double shortest = 2.5;
     constexpr double longest = 12;
-    constexpr double strongest = 50;  // that may be saved
+    constexpr double strongest = 50;  // that Save accepts
     constexpr double gap = 0.7;
     const double wind = static_cast<double>(row.phase.wind);
     const double share = std::min(std::abs(wind), strongest) / strongest;
     const double length = wind == 0 ? 0 : shortest + (longest - shortest) * share;
-    const Shape sign = SignOf(row.phase.eruptionType, {}, HeightOf(row));
-    const double clear = sign.path.boundingRect().right() + gap;
+    const Shape symbol = SymbolOf(row.phase.eruptionType, {}, HeightOf(row));
+    const double clear = symbol.path.boundingRect().right() + gap;
     const double reach = clear + length + gap + labelWidth;
-    const double blows = wind < 0 ? -1 : 1;
+    const double direction = wind < 0 ? -1 : 1;
     const double ahead =
-        blows > 0 ? row.columns.mapEnd - row.Vent() : row.Vent() - row.columns.mapStart;
-    const double side = ahead >= reach ? blows : -blows;
+        direction > 0 ? row.columns.mapEnd - row.Vent() : row.Vent() - row.columns.mapStart;
+    const double side = ahead >= reach ? direction : -direction;
     const double nearEnd = row.Vent() + side * clear;
     const double farEnd = nearEnd + side * length;
     const double label = side > 0 ? farEnd + gap : farEnd - gap - labelWidth;
     const double lastLabel = std::max(row.columns.mapStart, row.columns.mapEnd - labelWidth);
-    return {side == blows ? nearEnd : farEnd, blows * length,
+    return {side == direction ? nearEnd : farEnd, direction * length,
             std::clamp(label, row.columns.mapStart, lastLabel)};
 }
 
@@ -155,9 +155,9 @@ void AddFault(const Row& row) {
     if (Uses<&P::faultDownSide>(row) && !SideEntry(row.phase.faultDownSide, {}).empty()) {
         const double down = row.phase.faultDownSide == DownSide::Right ? 1 : -1;
         QPainterPath ground(on(thrown / 2) + QPointF(down * 0.5, 0));
-        ground.lineTo(on(thrown / 2) + QPointF(down * HalfSign, 0));
+        ground.lineTo(on(thrown / 2) + QPointF(down * HalfSymbol, 0));
         ground.moveTo(on(-thrown / 2) - QPointF(down * 0.5, 0));
-        ground.lineTo(on(-thrown / 2) - QPointF(down * HalfSign, 0));
+        ground.lineTo(on(-thrown / 2) - QPointF(down * HalfSymbol, 0));
         row.Add(Lined(Mark::Ground, ground, Palette::Grey, 0.5));
     }
 }
@@ -183,14 +183,14 @@ void AddErosion(const Row& row) {
               row.columns.mapEnd - 1, row.top + 2.4, Anchor::Right, Sheet::Small);
 }
 
-// The height of a flow's bar; a flow without a ceiling has none.
+// The height of a flow's bar; 0 if its ceiling cannot be computed.
 double BarHeight(const Row& row, int flow) {
-    constexpr double highest = 1.15;  // of the ceiling, for one that is above it
+    constexpr double highest = 1.15;  // times the ceiling, for any longer duration
     try {
         const double ceiling = LongestFlow(row.phase, flow);
         const double duration = std::max(0.0, static_cast<double>(row.flows[flow]));
         const double share = ceiling > 0 ? duration / ceiling : duration > 0 ? highest : 0;
-        return std::min(share, highest) * LargestSign;
+        return std::min(share, highest) * LargestSymbol;
     } catch (const std::overflow_error&) {
         return 0;
     }
@@ -203,7 +203,8 @@ void AddFlows(const Row& row) {
     }
     const double pitch = std::min(Sheet::WidestBar, row.columns.flowsWidth / count);
     QPainterPath ceiling;
-    ceiling.addRect(row.columns.flowsStart, row.ground - LargestSign, pitch * count, LargestSign);
+    ceiling.addRect(row.columns.flowsStart, row.ground - LargestSymbol, pitch * count,
+                    LargestSymbol);
     row.Add(Filled(Mark::Frame, ceiling, Palette::Shade));
     QPainterPath bars;
     for (int flow = 1; flow <= count; ++flow) {
@@ -223,7 +224,7 @@ void AddEruption(const Row& row) {
                                       : row.Vent() - row.columns.mapStart < BlastWidth ? 1
                                                                                        : away));
     }
-    row.Add(SignOf(row.phase.eruptionType, row.Foot(), HeightOf(row)));
+    row.Add(SymbolOf(row.phase.eruptionType, row.Foot(), HeightOf(row)));
     if (Uses<&P::burstFlag>(row) && row.phase.burstFlag == 1) {
         row.Add(BurstMark(row.Foot(), HeightOf(row)));
     }

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr double Units = 100;  // to the millimetre: all numbers are whole
+constexpr double Units = 100;  // per millimetre, so that all numbers are whole
 
 class Writer {
 public:

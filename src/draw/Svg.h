@@ -6,5 +6,5 @@
 
 #include "draw/Drawing.h"
 
-/// The first page as an SVG document, in which texts are texts.
+/// The first page as an SVG document, in which texts remain text.
 QByteArray SvgOf(const Drawing& drawing);

@@ -20,9 +20,9 @@ namespace {
 
 constexpr int Failed = 2;
 
-// The toolkit's own remarks, on settings of a desktop that takes no part here, are not for the
-// user.
-void SayOnlyErrors(QtMsgType type, const QMessageLogContext& /*context*/, const QString& message) {
+// Hides the toolkit's warnings, which are about a desktop that is not used here.
+void PrintOnlyErrors(QtMsgType type, const QMessageLogContext& /*context*/,
+                     const QString& message) {
     if (type == QtCriticalMsg || type == QtFatalMsg) {
         std::cerr << "tephrexdraw: " << message.toStdString() << '\n';
     }
@@ -30,7 +30,7 @@ void SayOnlyErrors(QtMsgType type, const QMessageLogContext& /*context*/, const 
 
 QByteArray PictureOf(const EditorState& record, const DrawOptions& options) {
     constexpr double anyHeight = 1e9;
-    constexpr double paper = 1.4142135623730951;  // of the A sizes
+    constexpr double paper = 1.4142135623730951;  // height by width of the A sizes
     const std::string name = std::filesystem::path(options.record).filename().string();
     const bool paged = options.format == PictureFormat::Pdf;
     const Drawing drawing =
@@ -58,12 +58,12 @@ int Draw(const DrawOptions& options) {
 int main(int argc, char** argv) {
     try {
         std::signal(SIGPIPE, SIG_IGN);  // a closed pipe is a write that fails
-        // No display takes part, whatever the environment names.
+        // No display is used, whatever the environment says.
         qputenv("QT_QPA_PLATFORM", "offscreen");
         qunsetenv("QT_QPA_PLATFORMTHEME");
-        qInstallMessageHandler(SayOnlyErrors);
+        qInstallMessageHandler(PrintOnlyErrors);
         QHashSeed::setDeterministicGlobalSeed();  // decides the order of the fonts in a PDF
-        int programOnly = 1;                      // the options are not the toolkit's
+        int programOnly = 1;                      // the toolkit sees no options
         const QGuiApplication application(programOnly, argv);
         const DrawOptions options = OptionsOf(argc, argv);
         if (options.answer.empty()) {

@@ -196,22 +196,22 @@ TEST(DrawTest, APhaseIsDrawnByWhatItsTypeUses) {
     const Row rows[]{
         {{.eruptionType = None, .wind = 5}, {}},
         {{.eruptionType = 42, .wind = 5}, {}},
-        {{.eruptionType = Vulcanian}, {Sign}},
+        {{.eruptionType = Vulcanian}, {Symbol}},
         {{.eruptionType = Vulcanian, .wind = -5, .directedFlag = 1, .burstFlag = 1},
-         {Sign, Wind, Blast}},
-        {{.eruptionType = Vulcanian, .calderaFlag = 1}, {Sign, Diatreme}},
-        {{.eruptionType = Vulcanian, .strength = 0.3F, .calderaFlag = 1}, {Sign, Diatreme}},
-        {{.eruptionType = Vulcanian, .strength = 0.4F, .calderaFlag = 1}, {Sign, Caldera}},
-        {{.eruptionType = Strombolian, .calderaFlag = 1, .directedFlag = 1}, {Sign, Diatreme}},
-        {{.eruptionType = Strombolian, .strength = 0.3F, .calderaFlag = 1}, {Sign}},
-        {{.eruptionType = Hawaiian, .calderaFlag = 1}, {Sign, Flows}},
-        {{.eruptionType = Pelean, .burstCount = -1}, {Sign}},
-        {{.eruptionType = Plinian, .calderaFlag = 1}, {Sign, Caldera}},
-        {{.eruptionType = Plinian, .strength = 1.5F}, {Sign, Refused}},
+         {Symbol, Wind, Blast}},
+        {{.eruptionType = Vulcanian, .calderaFlag = 1}, {Symbol, Diatreme}},
+        {{.eruptionType = Vulcanian, .strength = 0.3F, .calderaFlag = 1}, {Symbol, Diatreme}},
+        {{.eruptionType = Vulcanian, .strength = 0.4F, .calderaFlag = 1}, {Symbol, Caldera}},
+        {{.eruptionType = Strombolian, .calderaFlag = 1, .directedFlag = 1}, {Symbol, Diatreme}},
+        {{.eruptionType = Strombolian, .strength = 0.3F, .calderaFlag = 1}, {Symbol}},
+        {{.eruptionType = Hawaiian, .calderaFlag = 1}, {Symbol, Flows}},
+        {{.eruptionType = Pelean, .burstCount = -1}, {Symbol}},
+        {{.eruptionType = Plinian, .calderaFlag = 1}, {Symbol, Caldera}},
+        {{.eruptionType = Plinian, .strength = 1.5F}, {Symbol, Refused}},
         {{.eruptionType = Collapse, .wind = 9, .scarpTop = 3, .scarpBase = 9}, {Scarp}},
         {{.eruptionType = Collapse, .scarpTop = 3, .scarpBase = 99}, {Scarp, OffMap, Refused}},
-        {{.eruptionType = Fumarolic, .calderaFlag = 1, .burstFlag = 1}, {Sign, Bursts}},
-        {{.ventLocation = 0.5F, .eruptionType = Fumarolic}, {Sign, OffMap, Refused}},
+        {{.eruptionType = Fumarolic, .calderaFlag = 1, .burstFlag = 1}, {Symbol, Bursts}},
+        {{.ventLocation = 0.5F, .eruptionType = Fumarolic}, {Symbol, OffMap, Refused}},
         {{.faultDownSide = 1}, {Erosion}},
         {{.tectonicKind = 1, .faultMagnitude = 4, .faultDownSide = 1}, {FaultLine, Throw, Ground}},
         {{.tectonicKind = 1, .faultDip = 4, .faultDownSide = 1}, {FaultLine}},
@@ -226,7 +226,7 @@ TEST(DrawTest, APhaseIsDrawnByWhatItsTypeUses) {
         });
         const Drawing drawing = Draw(record);
         std::set<Mark> drawn;
-        for (int mark = static_cast<int>(Sign); mark <= static_cast<int>(Refused); ++mark) {
+        for (int mark = static_cast<int>(Symbol); mark <= static_cast<int>(Refused); ++mark) {
             if (!ShapesOf(drawing, 1, static_cast<Mark>(mark)).empty()) {
                 drawn.insert(static_cast<Mark>(mark));
             }
@@ -236,7 +236,7 @@ TEST(DrawTest, APhaseIsDrawnByWhatItsTypeUses) {
     EXPECT_EQ(TypeName({.eruptionType = EruptionType::None}), QStringList("No type"));
 }
 
-TEST(DrawTest, SignsAreAtTheirLocationsAndHaveTheirSizes) {
+TEST(DrawTest, SymbolsAreAtTheirLocationsAndHaveTheirSizes) {
     struct Row {
         Integer scale;
         Single location;
@@ -252,9 +252,9 @@ TEST(DrawTest, SignsAreAtTheirLocationsAndHaveTheirSizes) {
         record.state->LoadedPhases[2].scarpBase = row.location;
         record.state->RecordScale = row.scale;
         const Drawing drawing = Draw(record);
-        for (const auto& [phase, mark] : {std::pair{1, Mark::Sign}, {2, Mark::Scarp}}) {
-            const QRectF sign = ShapesOf(drawing, phase, mark).at(0).path.boundingRect();
-            EXPECT_NEAR(PositionOf(drawing, sign.center().x()), row.position, 0.1)
+        for (const auto& [phase, mark] : {std::pair{1, Mark::Symbol}, {2, Mark::Scarp}}) {
+            const QRectF symbol = ShapesOf(drawing, phase, mark).at(0).path.boundingRect();
+            EXPECT_NEAR(PositionOf(drawing, symbol.center().x()), row.position, 0.1)
                 << "row " << &row - rows;
         }
     }
@@ -298,7 +298,7 @@ TEST(DrawTest, TheLegendHasWhatOccursAndNothingElse) {
         legend += text.text;
     }
     EXPECT_EQ(legend.join("; ").toStdString(),
-              "Hawaiian; Erosion; a wave a cycle; Flow durations against their ceilings");
+              "Hawaiian; Erosion; one wave per cycle; Flow durations against their ceilings");
 }
 
 TEST(DrawTest, ShapesAndTextsArePaintedWhereTheyAre) {
@@ -310,7 +310,7 @@ TEST(DrawTest, ShapesAndTextsArePaintedWhereTheyAre) {
     const Group group{
         1,
         {},
-        {{Mark::Sign, box, {0, 0, 0xFF0000FF}}, {Mark::Wind, line, {0xFF123456, 0.5, 0}}},
+        {{Mark::Symbol, box, {0, 0, 0xFF0000FF}}, {Mark::Wind, line, {0xFF123456, 0.5, 0}}},
         {lettering.Put("H", {40, 12}, Anchor::Left, {5}),
          lettering.Put("M", {50, 12}, Anchor::Middle, {5, 0xFF00FF00})}};
     const QImage image = QImage::fromData(PngOf({{}, {}, {{{70, 20.5}, {group}}}}, 254));
@@ -376,7 +376,7 @@ TEST(DrawTest, TheMapHasTheWidthThatIsLeft) {
     TestRecord record;
     record.Add(EruptionType::Plinian).massFlux = 123456;
     record.Add(EruptionType::Hawaiian).burstCount = -32768;
-    const auto width = [&](const char* text, const Letters& letters) {
+    const auto width = [&](const char* text, const TextStyle& letters) {
         return lettering.Width(text, letters);
     };
     for (const auto& [page, faults, flows] :
@@ -456,5 +456,5 @@ TEST(DrawTest, AnSvgIsWellFormedAndHasEachTextAsText) {
     EXPECT_EQ(titles.value(1), drawing.description);
     EXPECT_TRUE(
         drawing.description.endsWith(". Each row is a phase, the first at the bottom; from "
-                                     "left to right the place on the map."));
+                                     "left to right is the location on the map."));
 }

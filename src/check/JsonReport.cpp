@@ -1,4 +1,4 @@
-#include "check/JsonForm.h"
+#include "check/JsonReport.h"
 
 #include <cmath>
 #include <nlohmann/json.hpp>
@@ -14,7 +14,7 @@ std::string Dump(const Json& json) {
     return json.dump(-1, ' ', false, Json::error_handler_t::replace);
 }
 
-// The number that the text shows, and not what a Single makes of it.
+// The number in the text, not rounded to a Single; other text is returned as it is.
 Json NumberOf(const std::string& item) {
     double number = 0;
     if (FromDecimal(item, number) != Conversion::Number) {

@@ -1,5 +1,5 @@
-// The signs of a picture by eruption type, their colours, and the marks that go with them. What a
-// sign means and where it goes is decided by those who use them.
+// The symbols of the eruption types, their colours, and the other marks of a picture. Where they
+// are drawn, and for which phase, is in Rows and Legend.
 #pragma once
 
 #include <QPainterPath>
@@ -8,7 +8,7 @@
 #include "draw/Drawing.h"
 #include "record/PhaseRecord.h"
 
-/// The palette of Okabe and Ito, whose colours differ for colour-blind eyes too.
+/// The palette of Okabe and Ito, whose colours can be told apart by colour-blind readers too.
 namespace Palette {
 constexpr QRgb Black = 0xFF000000;
 constexpr QRgb Orange = 0xFFE69F00;
@@ -18,42 +18,42 @@ constexpr QRgb Yellow = 0xFFF0E442;
 constexpr QRgb Blue = 0xFF0072B2;
 constexpr QRgb Vermilion = 0xFFD55E00;
 constexpr QRgb Purple = 0xFFCC79A7;
-// Greys for what holds the picture together.
+// Greys for outlines, rules and backgrounds.
 constexpr QRgb Ink = 0xFF222222;
 constexpr QRgb Grey = 0xFF606060;
 constexpr QRgb Rule = 0xFFD8D8D8;
 constexpr QRgb Shade = 0xFFEDEDED;
-constexpr QRgb Tint = 0xFFFBEFE6;  // of Vermilion
 }  // namespace Palette
 
-constexpr double LargestSign = 5;  // height
-constexpr double HalfSign = 3.8;   // from the middle of the widest, at that height
+constexpr double LargestSymbol = 5;  // height
+constexpr double HalfSymbol = 3.8;   // half the width of the widest, at that height
 
-/// The height of the sign of a strength; of types without strength.
-double SignHeight(Single strength);
-constexpr double PlainSignHeight = 3.6;
+/// The height of the symbol of a strength, and of types without strength.
+double SymbolHeight(Single strength);
+constexpr double PlainSymbolHeight = 3.6;
 
-/// The sign of a type with a vent, standing on `foot`. A type without a vent, or a code that is no
-/// type, has an empty one.
-Shape SignOf(Integer eruptionType, QPointF foot, double height);
+/// The symbol of a type, the middle of its lower edge at `foot`. Its path is empty for a type
+/// without a vent and for a code that is no type.
+Shape SymbolOf(Integer eruptionType, QPointF foot, double height);
 
 /// The colour of a type; black for a code that is no type.
 QRgb ColourOf(Integer eruptionType);
 
+/// Below a vent at `foot`. A style that is not known is drawn with an open floor.
 Shape CalderaMark(QPointF foot, Integer calderaStyle);
 Shape DiatremeMark(QPointF foot);
 /// To the right with `side` 1, to the left with -1; as wide as BlastWidth.
 Shape BlastMark(QPointF foot, int side);
 constexpr double BlastWidth = 4;
-/// Above a sign of that height.
+/// Above a symbol of that height.
 Shape BurstMark(QPointF foot, double height);
 /// An arrow from a point sideways; a negative length points to the left.
 Shape Arrow(Mark mark, QPointF from, double length, QRgb colour);
-/// A wave of so many periods.
+/// A wave of `periods` periods, to the right.
 Shape Wave(QPointF from, double length, int periods);
-/// The sign of a phase that Save would refuse.
+/// The mark of a phase that Save would refuse.
 Shape RefusedMark(QPointF centre);
 
-/// The path with one colour for line and fill, or with a line only.
+/// The path filled without a line, or with a line only.
 Shape Filled(Mark mark, const QPainterPath& path, QRgb colour);
 Shape Lined(Mark mark, const QPainterPath& path, QRgb colour, double width);

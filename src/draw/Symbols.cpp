@@ -1,4 +1,4 @@
-#include "draw/Signs.h"
+#include "draw/Symbols.h"
 
 #include <QTransform>
 #include <algorithm>
@@ -9,7 +9,7 @@
 
 namespace {
 
-// Signs are drawn one unit high, upwards from their foot at 0, 0.
+// Symbols are one unit high, upwards from their foot at 0, 0.
 
 QPainterPath Shield() {
     QPainterPath path(QPointF(-0.76, 0));
@@ -70,23 +70,23 @@ QPainterPath Ring() {
 
 QPainterPath Nothing() { return {}; }
 
-struct Sign {
+struct Symbol {
     QPainterPath (*path)();
     QRgb colour;
 };
 
 // By the code of the type.
-constexpr std::array Signs{
-    Sign{Nothing, Palette::Black},         // Tectonic
-    Sign{Fan, Palette::SkyBlue},           // Vulcanian
-    Sign{CinderCone, Palette::Orange},     // Strombolian
-    Sign{Shield, Palette::Vermilion},      // Hawaiian
-    Sign{DomeWithSpine, Palette::Purple},  // Pelean
-    Sign{Umbrella, Palette::Black},        // Plinian
-    Sign{Nothing, Palette::Yellow},        // Collapse
-    Sign{Ring, Palette::Green},            // Fumarolic
+constexpr std::array Symbols{
+    Symbol{Nothing, Palette::Black},         // Tectonic
+    Symbol{Fan, Palette::SkyBlue},           // Vulcanian
+    Symbol{CinderCone, Palette::Orange},     // Strombolian
+    Symbol{Shield, Palette::Vermilion},      // Hawaiian
+    Symbol{DomeWithSpine, Palette::Purple},  // Pelean
+    Symbol{Umbrella, Palette::Black},        // Plinian
+    Symbol{Nothing, Palette::Yellow},        // Collapse
+    Symbol{Ring, Palette::Green},            // Fumarolic
 };
-static_assert(Signs.size() == LastEruptionType + 1, "each eruption type has a sign");
+static_assert(Symbols.size() == LastEruptionType + 1, "each eruption type has a symbol");
 
 constexpr double OutlineWidth = 0.2;
 
@@ -101,23 +101,24 @@ void AddLine(QPainterPath& path, QPointF from, QPointF to) {
 
 }  // namespace
 
-double SignHeight(Single strength) {
+double SymbolHeight(Single strength) {
     constexpr double smallest = 1.6;
     constexpr double strongest = 2;  // that any type allows
     const double share = std::clamp(static_cast<double>(strength), 0.0, strongest) / strongest;
-    return smallest + (LargestSign - smallest) * std::sqrt(share);
+    return smallest + (LargestSymbol - smallest) * std::sqrt(share);
 }
 
-Shape SignOf(Integer eruptionType, QPointF foot, double height) {
+Shape SymbolOf(Integer eruptionType, QPointF foot, double height) {
     if (!IsEruptionType(eruptionType)) {
-        return {Mark::Sign, {}, {}};
+        return {Mark::Symbol, {}, {}};
     }
-    const Sign& sign = Signs[static_cast<std::size_t>(eruptionType)];
-    return {Mark::Sign, At(foot, height, sign.path()), {Palette::Ink, OutlineWidth, sign.colour}};
+    const Symbol& symbol = Symbols[static_cast<std::size_t>(eruptionType)];
+    return {
+        Mark::Symbol, At(foot, height, symbol.path()), {Palette::Ink, OutlineWidth, symbol.colour}};
 }
 
 QRgb ColourOf(Integer eruptionType) {
-    return IsEruptionType(eruptionType) ? Signs[static_cast<std::size_t>(eruptionType)].colour
+    return IsEruptionType(eruptionType) ? Symbols[static_cast<std::size_t>(eruptionType)].colour
                                         : Palette::Black;
 }
 
