@@ -128,6 +128,8 @@ void WritePlainly(const std::string& path, const EditorState& state, std::vector
     std::fclose(file);
 }
 
+static_assert(ShownPhase().size() == FieldBoxes.size(), "a number for each box");
+
 ShownPhase NumbersOf(const PhaseRecord& phase) {
     ShownPhase shown{};
     std::transform(FieldBoxes.begin(), FieldBoxes.end(), shown.begin(), [&phase](const auto& row) {
