@@ -141,6 +141,14 @@ TEST_F(FilesTest, ADialogShowsItsListWholeAndEntersTheFolderSelectedInIt) {
     WriteBytes(folder / (std::string(30, 'n') + ".rec"), "");
     QTimer::singleShot(0, &window, [] {
         auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        const QSize roomy(140 * dialog->fontMetrics().averageCharWidth(),
+                          30 * dialog->fontMetrics().height());
+        EXPECT_EQ(dialog->size(), roomy.boundedTo(dialog->screen()->availableSize()));
+        EXPECT_EQ(dialog->nameFilters().join(", "), "Some (*.rec *.REC), All files (*)");
+        EXPECT_EQ(dialog->selectedNameFilter(), "All files (*)");
+        dialog->setSidebarUrls({QUrl::fromLocalFile(dialog->directory().filePath("<b>fol\nder"))});
+        const auto* const places = dialog->findChild<QListView*>("sidebar")->model();
+        EXPECT_EQ(places->index(0, 0).data().toString(), ToScreen("<b>fol\nder"));
         dialog->resize(900, 500);
         QAbstractItemView* const list = dialog->findChild<QTreeView*>();
         const auto* const header = dialog->findChild<QHeaderView*>();
@@ -169,6 +177,8 @@ TEST_F(FilesTest, ADialogShowsItsListWholeAndEntersTheFolderSelectedInIt) {
     });
     form.CD1.InitDir = folder / "";
     form.CD1.FileName.clear();
+    form.CD1.Filter = "Some (*.rec)|*.rec;*.REC|All files|*|";
+    form.CD1.FilterIndex = 2;
     EXPECT_FALSE(chooser.AskOpen(form.CD1));
 }
 

@@ -24,3 +24,88 @@ TEST_F(WindowTest, AScreenReaderHearsWhereAControlBelongsAndWhatItIsFor) {
     }
     EXPECT_EQ(Find("txtLava")->toolTip(), "") << "heard, and not shown";
 }
+
+TEST_F(WindowTest, AListAndAnOptionAreWorkedByTheirActions) {
+    auto& list = *Find<QComboBox>("cmbType");
+    auto* const heard = QAccessible::queryAccessibleInterface(&list);
+    QObject* const parts[]{list.view(), list.lineEdit()};
+    ASSERT_EQ(heard->childCount(), 2);
+    for (const int i : {0, 1}) {
+        EXPECT_EQ(heard->child(i)->object(), parts[i]);
+        EXPECT_EQ(heard->indexOfChild(QAccessible::queryAccessibleInterface(parts[i])), i);
+    }
+    EXPECT_EQ(heard->child(2), nullptr);
+    EXPECT_EQ(heard->indexOfChild(heard), -1);
+    EXPECT_EQ(heard->text(QAccessible::Value), "Strombolian");
+    EXPECT_EQ(heard->text(QAccessible::Name), "Eruption Type");
+    auto& actions = *heard->actionInterface();
+    for (const auto& [enabled, open] : {std::pair{true, true}, {true, false}, {false, false}}) {
+        form.cmbType.SetEnabled(enabled);
+        window.RunPendingEvents();
+        actions.doAction(actions.showMenuAction());
+        EXPECT_EQ(list.view()->isVisible(), open);
+        const QAccessible::State state = heard->state();
+        EXPECT_TRUE(state.editable && state.hasPopup && state.expandable);
+        EXPECT_EQ(bool(state.expanded), open);
+        EXPECT_EQ(bool(state.collapsed), !open);
+    }
+    auto* const option = QAccessible::queryAccessibleInterface(Find("optSmall"));
+    EXPECT_FALSE(option->state().checked);
+    option->actionInterface()->doAction(option->actionInterface()->toggleAction());
+    EXPECT_TRUE(option->state().checkable && option->state().checked);
+    EXPECT_EQ(form.optSmall.Value(), true);
+}
+
+TEST_F(WindowTest, ADocumentIsHeardLineByLine) {
+    QTextEdit page;
+    page.setPlainText("ab\u2028cd\n\ne\u00A0f");
+    page.resize(400, 300);
+    page.show();
+    auto* const heard = QAccessible::queryAccessibleInterface(&page);
+    EXPECT_EQ(heard->role(), QAccessible::Document);
+    EXPECT_TRUE(heard->state().readOnly && heard->state().multiLine);
+    EXPECT_TRUE(heard->state().selectableText);
+    auto& text = *heard->textInterface();
+    EXPECT_EQ(text.text(0, text.characterCount()), "ab\ncd\n\ne f");
+    struct Row {
+        int offset;
+        QString before, at, after;
+        QAccessible::TextBoundaryType unit = QAccessible::LineBoundary;
+    };
+    const Row rows[]{
+        {0, "0-0 ", "0-3 ab\n", "3-6 cd\n"},
+        {4, "0-3 ab\n", "3-6 cd\n", "6-7 \n"},
+        {6, "3-6 cd\n", "6-7 \n", "7-11 e f"},
+        {9, "6-7 \n", "7-11 e f", "10-10 "},
+        {1, "0-1 a", "1-2 b", "2-3 \n", QAccessible::CharBoundary},
+    };
+    for (const Row& row : rows) {
+        int start = 0, end = 0;
+        const auto place = [&](const QString& said) {
+            return QString("%1-%2 ").arg(start).arg(end) + said;
+        };
+        const auto said = text.textBeforeOffset(row.offset, row.unit, &start, &end);
+        EXPECT_EQ(place(said), row.before);
+        const auto now = text.textAtOffset(row.offset, row.unit, &start, &end);
+        EXPECT_EQ(place(now), row.at);
+        const auto then = text.textAfterOffset(row.offset, row.unit, &start, &end);
+        EXPECT_EQ(place(then), row.after);
+        const QRect letter = text.characterRect(row.offset);
+        EXPECT_EQ(text.offsetAtPoint(letter.topLeft() + QPoint(1, 2)), row.offset);
+        EXPECT_EQ(page.geometry().contains(letter) && letter.width() > 0, row.offset != 6);
+    }
+    int start = -1, end = -1;
+    EXPECT_EQ(text.attributes(3, &start, &end), "");
+    EXPECT_EQ(QPair(start, end), QPair(0, 10));
+    text.addSelection(-2, 5);
+    text.selection(0, &start, &end);
+    EXPECT_EQ(QPair(start, end), QPair(0, 5));
+    EXPECT_EQ(text.selectionCount() * 10 + text.cursorPosition(), 15);
+    text.removeSelection(0);
+    EXPECT_EQ(text.selectionCount() * 10 + text.cursorPosition(), 5);
+    text.setSelection(0, 99, 4);
+    text.selection(0, &start, &end);
+    EXPECT_EQ(QPair(start, end), QPair(4, 10));
+    text.scrollToSubstring(7, 9);
+    EXPECT_EQ(text.selectionCount() * 10 + text.cursorPosition(), 7);
+}

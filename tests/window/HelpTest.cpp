@@ -78,8 +78,26 @@ TEST_F(WindowTest, HelpIsReadByKeysAndKeepsItsPlaceUntilItIsClosed) {
     emit list.itemActivated(list.topLevelItem(1), 0);
     EXPECT_EQ(page.textCursor().block().text(), "Part");
     EXPECT_TRUE(page.hasFocus());
-    keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-    EXPECT_TRUE(list.hasFocus());
+    QStringList passed;
+    do {
+        keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        passed += QApplication::focusWidget()->accessibleName();
+    } while (!page.hasFocus());
+    EXPECT_EQ(passed.join(", "), "Headings, Find, Find previous (Shift+F3), Find next (F3), Top");
+    EXPECT_FALSE(list.rootIsDecorated() || list.itemsExpandable() ||
+                 list.isHeaderHidden() == false);
+    auto& parts = *help.findChild<QSplitter*>();
+    const auto share = [&help](int width) { return width * help.fontMetrics().averageCharWidth(); };
+    EXPECT_EQ(help.width(), share(132));
+    EXPECT_EQ(help.height(), 42 * help.fontMetrics().lineSpacing());
+    EXPECT_EQ(page.palette().color(QPalette::Inactive, QPalette::Highlight),
+              page.palette().color(QPalette::Active, QPalette::Highlight));
+    for (const int width : {101, 103}) {
+        help.resize(share(width), 500);
+        EXPECT_EQ(parts.orientation(), width < 102 ? Qt::Vertical : Qt::Horizontal);
+        EXPECT_NEAR(parts.sizes()[0],
+                    width < 102 ? 10 * help.fontMetrics().lineSpacing() : share(34), 12);
+    }
     help.showMinimized();
     viewer.ShowHelp(form.CD1);
     EXPECT_FALSE(help.isMinimized());

@@ -144,7 +144,70 @@ TEST_F(ScreenTest, FieldsAreReadableInLightAndDarkAndWhenGreyed) {
         for (const QLabel* label : themed.findChildren<QLabel*>())
             ExpectContrast(*label, QPalette::Disabled, QPalette::WindowText, QPalette::Window, 3);
     }
+    const auto expectColour = [](const QWidget* field, QPalette::ColorGroup group,
+                                 QPalette::ColorRole role, QRgb colour) {
+        EXPECT_EQ(field->palette().color(group, role).rgb(), colour) << group << role;
+    };
+    const auto* const output = themed.findChild<QWidget*>("labPhases");
+    for (const auto role : {QPalette::Base, QPalette::Window})
+        expectColour(output, QPalette::Active, role, 0xFFC0FFFF);
+    expectColour(output, QPalette::Disabled, QPalette::Text, 0xFF707070);
+    const auto* const list = themed.findChild<QComboBox*>("cmbType");
+    for (const QWidget* field : {(const QWidget*)list->view(), (const QWidget*)list->lineEdit()}) {
+        expectColour(field, QPalette::Active, QPalette::Base, 0xFFFFFFC0);
+        expectColour(field, QPalette::Active, QPalette::Highlight, 0xFF005493);
+        expectColour(field, QPalette::Active, QPalette::HighlightedText, 0xFFFFFFFF);
+    }
+    for (const auto role : {QPalette::Text, QPalette::WindowText})
+        expectColour(&Page(themed), QPalette::Disabled, role, 0xFF606060);  // from black, on 239
     QApplication::setPalette(usual);
+}
+
+TEST_F(ScreenTest, MarksAndTitlesKeepClearOfWhatIsBesideThem) {
+    QApplication::setFont(QFont(QApplication::font().family(), 24));
+    const FormWindow sized(form);
+    for (QAbstractButton* button : sized.findChildren<QAbstractButton*>()) {
+        if (!button->isCheckable()) continue;
+        QStyleOptionButton option;
+        option.initFrom(button);
+        const bool check = qobject_cast<QCheckBox*>(button);
+        const auto part = [&](QStyle::SubElement of) {
+            return button->style()->subElementRect(of, &option, button);
+        };
+        const QRect mark =
+            part(check ? QStyle::SE_CheckBoxIndicator : QStyle::SE_RadioButtonIndicator);
+        const QRect text =
+            part(check ? QStyle::SE_CheckBoxContents : QStyle::SE_RadioButtonContents);
+        const int size = button->fontMetrics().ascent();
+        EXPECT_EQ(mark.size(), QSize(size, size));
+        EXPECT_LE(std::abs(mark.center().y() - button->rect().center().y()), 1);
+        EXPECT_EQ(check ? mark.right() : mark.left(),
+                  check ? button->rect().right() : button->rect().left());
+        EXPECT_EQ(check ? mark.left() - text.right() : text.left() - mark.right(), size / 3 + 1);
+        EXPECT_EQ(check ? text.left() : text.right(), check ? 0 : button->rect().right());
+    }
+    for (QGroupBox* frame : sized.findChildren<QGroupBox*>()) {
+        QStyleOptionGroupBox option;
+        option.initFrom(frame);
+        option.text = frame->title();
+        option.subControls = QStyle::SC_GroupBoxFrame | QStyle::SC_GroupBoxLabel;
+        const int end =
+            frame->style()
+                ->subControlRect(QStyle::CC_GroupBox, &option, QStyle::SC_GroupBoxLabel, frame)
+                .bottom();
+        for (const QWidget* inside :
+             frame->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
+            EXPECT_GT(inside->y(), end) << inside->objectName().toStdString();
+    }
+    const auto sizes = [](const QIcon& icon) {
+        QList<int> all;
+        for (const QSize& size : icon.availableSizes()) all += size.width();
+        return all;
+    };
+    EXPECT_EQ(sizes(FormIcon()), QList({16, 24, 32, 48, 64}));
+    const auto* const open = sized.findChild<QPushButton*>("cmdOpen");
+    EXPECT_EQ(sizes(open->icon()), QList({16, 20, 24, 32, 2 * open->iconSize().width()}));
+    EXPECT_EQ(open->iconSize().width(), open->fontMetrics().ascent() * 4 / 3);
 }
 
 // Arrows as wide as they are high, wide margins, and much room above what is in a frame.

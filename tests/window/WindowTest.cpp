@@ -40,6 +40,7 @@ TEST_F(WindowTest, OnlyKeysThatBringOrTakeACharacterCountAsPresses) {
         window.RunPendingEvents();
         EXPECT_EQ(Find("Command2")->isEnabled(), row.isPress) << "row " << &row - rows;
         EXPECT_EQ(form.txtWind.Text(), row.text) << "row " << &row - rows;
+        EXPECT_EQ(form.txtWind.SelStart(), static_cast<std::size_t>(box->cursorPosition()));
     }
 }
 
@@ -65,6 +66,13 @@ TEST_F(WindowTest, FocusSelectsAllALaterClickPlacesTheCaretARewriteSendsItToTheE
     mouseClick(part, Qt::LeftButton, {}, QPoint(2, 5));
     EXPECT_EQ(part->cursorPosition(), 0);
     EXPECT_EQ(form.txtPart.SelLength(), 0U);
+    QMouseEvent move(QEvent::MouseMove, {90, 5}, part->mapToGlobal(QPointF(90, 5)), Qt::NoButton,
+                     Qt::LeftButton, {});
+    QTest::mousePress(part, Qt::LeftButton, {}, {2, 5});
+    QApplication::sendEvent(part, &move);
+    QTest::mouseRelease(part, Qt::LeftButton, {}, {90, 5});
+    EXPECT_EQ(form.txtPart.SelLength(), 2U) << "by a drag";
+    part->home(false);
     keyClick(part, Qt::Key_5);
     EXPECT_EQ(part->text(), "50") << "the highest value in place of 520";
     EXPECT_EQ(part->cursorPosition(), 2);
