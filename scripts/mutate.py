@@ -1,10 +1,11 @@
 #!/usr/bin/env python3
 """mutate.py [HOW_MANY [SEED]]: changes src in one small place at a time and runs the tests of it.
 
-Each change is one that a slip of the hand could make. The tests should notice; what they do not
-notice is printed with its place and the line before and after. Without a seed one is drawn. Works
-on copies of the project, one for each processor. The window's tests run without a screen; those of
-src/main.cpp are the walks, which need one (see README).
+Each change is one that a slip of the hand could make: a comparison, sign, number, text or cell, a
+step left out, two steps exchanged. The tests should notice; what they do not notice is printed with
+its place and the lines before and after, for a human to judge: some changes make no difference.
+HOW_MANY is 100 if it is not given, and the seed is drawn. Works on copies of the project, one for
+each processor. The walks of the window need what scripts/screen.sh installs.
 """
 
 import os
@@ -20,12 +21,12 @@ from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
 PROJECT = Path(__file__).resolve().parent.parent
-# A test run hangs, which is noticed too, that takes as many times as long as without a change, and
-# as many seconds.
+# A run counts as hanging, which is noticed too, if it takes more than so many times its usual time
+# and more than so many seconds.
 SLOWER, SECONDS = 10, 120
 
-# What the tests of a room are: what is built for them, and the command in the folder of the build.
-# Monkeys walk but shortly: what the tests with a purpose miss is what is looked for.
+# The tests of each folder of src: what is built for them, and the command in the folder of the
+# build. Monkeys make few steps: a change that only they notice should count as missed.
 CORE = ("core_tests", ("env", "TEPHREX_MONKEY_ACTS=2000", "tests/core_tests",
                        "--gtest_fail_fast"))
 WINDOW = ("window_tests", ("env", "QT_QPA_PLATFORM=offscreen", "TEPHREX_MONKEY_ACTS=200",
@@ -46,14 +47,16 @@ SWAPS = {
              " -": " "},
     "logic": {" && ": " || ", " || ": " && ", "true": "false", "false": "true", "(!": "("},
 }
+ARRAY = re.compile(r"std::array<.*?>")
 CELL = re.compile(r"(?<=[{ ])([oXA-E])(?=[,}])")
 NUMBER = re.compile(r"(?<![\w.\"'])\d+(\.\d+)?(?![\w.]*['x])")
 TEXT = re.compile(r'"([^"\\]|\\.)*"')
 STATEMENT = re.compile(r"^( +)(?!return|const |auto |using |break|\})[^ ].*;$")
 ROW = re.compile(r"^( +)\{.*\},?$")
-# Steps without effects on others of their kind: to exchange two of them changes nothing.
+# Steps that do not affect others of their kind: exchanging two of them changes nothing.
 QUIET = re.compile(r"EnableBurstFields\(|\.Set(Enabled|Caption|Visible|ToolTipText)\("
-                   r"|[.>]set[A-Z]\w*\(|connect\("
+                   r"|(^ +|[.>])set[A-Z]\w*\(|connect\(|^ +case .*: return"
+                   r"|^ +[A-Z][\w:<>]*[&*]* \w+(\(.*\)|\{.*\})?;$"
                    r"|^ +[\w.\[\]'\\ ]+ \+?= [^()]+;$|[oX], [oX]")
 
 
@@ -64,19 +67,31 @@ def code_of(line):
     return re.sub(r"//.*", lambda m: " " * len(m[0]), line)
 
 
+def blanked(codes):
+    """The lines with what only the compiler asks for blanked out: its assertions, array sizes."""
+    open_brackets = 0  # of an assertion
+    for i, code in enumerate(codes):
+        asserts = open_brackets > 0 or code.lstrip().startswith("static_assert(")
+        if asserts:
+            open_brackets += code.count("(") - code.count(")")
+        hidden = re.compile(".*") if asserts else ARRAY
+        codes[i] = hidden.sub(lambda m: " " * len(m[0]), code)
+    return codes
+
+
 def replaced(line, match, text):
     return line[: match.start()] + text + line[match.end():]
 
 
 def changes_of(lines, in_order):
-    """All changes of a file: kind, number of the first line, the lines, what stands there then.
+    """All changes of a file: kind, number of the first line, the lines, what replaces them.
 
     Lines are left out and exchanged only where their order is that of the steps of a routine or
     of the rows of a rule, and not that of declarations.
     """
-    codes = [code_of(line) for line in lines]
+    codes = blanked([code_of(line) for line in lines])
     for i, (line, code) in enumerate(zip(lines, codes)):
-        if code.lstrip().startswith(("#", "template", "static_assert", "friend ")):
+        if code.lstrip().startswith(("#", "template", "friend ")):
             continue
         for kind, swaps in SWAPS.items():
             for old, new in swaps.items():
@@ -198,7 +213,7 @@ class Copy:
 
 
 class Trial:
-    """Tries changes in copies of the project, side by side, until there are as many as wanted."""
+    """Tries changes in copies of the project, side by side, until so many are tried."""
 
     def __init__(self, how_many):
         self.how_many, self.tried, self.missed = how_many, 0, 0
@@ -212,7 +227,7 @@ class Trial:
                 name = copy.try_change(*change)
                 with self.lock:
                     if name is not None and self.tried < self.how_many:
-                        self.tell(*change, name)
+                        self.report(*change, name)
         except Exception:
             self.how_many = self.tried  # the other copies stop too
             raise
@@ -221,7 +236,7 @@ class Trial:
         with self.lock:
             return next(self.changes, None) if self.tried < self.how_many else None
 
-    def tell(self, path, change, name):
+    def report(self, path, change, name):
         self.tried += 1
         kind, at, old, new = change
         print(f"{self.tried:4} {'noticed' if name else 'MISSED '} {kind:10} src/{path}:{at + 1}  "
