@@ -307,6 +307,7 @@ TEST(CheckTest, CharactersWithoutALookOfTheirOwnAreEscaped) {
     }
     EXPECT_EQ(OneLine("\t\\\"\x80"), "\\t\\\"\x80");
     EXPECT_EQ(Quoted("\t\\\"\x80"), "\"\\t\\\\\\\"\\x80\"");
+    EXPECT_EQ(LowestText(0), "0");
     EXPECT_EQ(Quoted(std::string(40, 'a')), '"' + std::string(40, 'a') + '"');
     EXPECT_EQ(Quoted(std::string(41, 'a')), '"' + std::string(40, 'a') + "\"...");
 }

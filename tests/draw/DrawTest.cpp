@@ -340,8 +340,9 @@ TEST(DrawTest, PagesHoldAsManyRowsAsFit) {
         double tallest;
         std::vector<int> counts;
     };
-    const Row rows[]{{0, AnyHeight, {0}}, {3, AnyHeight, {3}}, {13, 150, {13}},
-                     {14, 150, {13, 1}},  {28, 150, {13, 15}}, {29, 150, {13, 15, 1}}};
+    const Row rows[]{{0, AnyHeight, {0}},       {3, AnyHeight, {3}},      {13, 146.95, {13}},
+                     {14, 146.93, {12, 2}},     {27, 146.95, {13, 14}},   {28, 149.13, {13, 15}},
+                     {29, 149.13, {13, 15, 1}}, {30, 149.11, {13, 14, 3}}};
     for (const auto& [phases, tallest, counts] : rows) {
         TestRecord record;
         for (int i = 0; i < phases; ++i) {

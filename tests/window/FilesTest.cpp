@@ -136,11 +136,20 @@ TEST_F(FilesTest, AReferenceKeepsItsControlCharactersWhileItIsEdited) {
     EXPECT_EQ(box->text(), shown + "x");
 }
 
+TEST(NameInMessageTest, ALongNameMayBreakBetweenItsLetters) {
+    const auto name = [](int length) { return QString(length, 'n'); };
+    EXPECT_EQ(NameInMessage(name(60)), name(60));
+    EXPECT_EQ(NameInMessage(name(121)), name(60) + u'\u200B' + name(60) + u'\u200B' + name(1));
+    EXPECT_EQ(NameInMessage(name(60) + u'\u0301' + name(61)),
+              name(60) + u'\u0301' + u'\u200B' + name(60) + u'\u200B' + name(1));
+}
+
 TEST_F(FilesTest, ADialogShowsItsListWholeAndEntersTheFolderSelectedInIt) {
     std::filesystem::create_directories(folder / "<b>fol\nder");
     WriteBytes(folder / (std::string(30, 'n') + ".rec"), "");
     QTimer::singleShot(0, &window, [] {
         auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        QAbstractItemView* const list = dialog->findChild<QTreeView*>();
         const QSize roomy(140 * dialog->fontMetrics().averageCharWidth(),
                           30 * dialog->fontMetrics().height());
         EXPECT_EQ(dialog->size(), roomy.boundedTo(dialog->screen()->availableSize()));
@@ -149,8 +158,13 @@ TEST_F(FilesTest, ADialogShowsItsListWholeAndEntersTheFolderSelectedInIt) {
         dialog->setSidebarUrls({QUrl::fromLocalFile(dialog->directory().filePath("<b>fol\nder"))});
         const auto* const places = dialog->findChild<QListView*>("sidebar")->model();
         EXPECT_EQ(places->index(0, 0).data().toString(), ToScreen("<b>fol\nder"));
+        for (QAbstractItemView* const view :
+             {dialog->findChild<QLineEdit*>()->completer()->popup(), list,
+              static_cast<QAbstractItemView*>(dialog->findChild<QListView*>("listView"))}) {
+            const auto& names = dynamic_cast<QStyledItemDelegate&>(*view->itemDelegate());
+            EXPECT_EQ(names.displayText("a\nb", QLocale()), ToScreen("a\nb"));
+        }
         dialog->resize(900, 500);
-        QAbstractItemView* const list = dialog->findChild<QTreeView*>();
         const auto* const header = dialog->findChild<QHeaderView*>();
         EXPECT_TRUE(QTest::qWaitFor([=] {
             QList<int> cut;

@@ -49,6 +49,16 @@ TEST_F(WindowTest, AListAndAnOptionAreWorkedByTheirActions) {
         EXPECT_EQ(bool(state.expanded), open);
         EXPECT_EQ(bool(state.collapsed), !open);
     }
+    form.cmbType.SetEnabled(true);
+    window.RunPendingEvents();
+    for (const bool open : {false, true}) {
+        if (open) list.showPopup();
+        const QModelIndex entry = list.model()->index(open ? 3 : 4, 0);
+        list.view()->selectionModel()->select(entry, QItemSelectionModel::ClearAndSelect);
+        window.RunPendingEvents();
+        EXPECT_EQ(form.cmbType.Text() == entry.data().toString().toStdString(), open);
+        EXPECT_FALSE(list.view()->isVisible());
+    }
     auto* const option = QAccessible::queryAccessibleInterface(Find("optSmall"));
     EXPECT_FALSE(option->state().checked);
     option->actionInterface()->doAction(option->actionInterface()->toggleAction());

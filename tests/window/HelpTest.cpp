@@ -37,9 +37,13 @@ TEST_F(WindowTest, HelpIsReadByKeysAndKeepsItsPlaceUntilItIsClosed) {
     WriteBytes(folder / "help", "# 94 Top\nThe word.\n## Part\n\nA Word.\n");
     form.CD1.HelpFile = folder / "\\help";
     form.CD1.HelpContext = 94;
-    form.CD1.HelpCommand = CommonDialog::ShowTopic;
     HelpWindow viewer(window);
-    viewer.ShowHelp(form.CD1);
+    const auto showOrQuit = [&](int command) {
+        form.CD1.HelpCommand = command;
+        viewer.ShowHelp(form.CD1);
+    };
+    showOrQuit(CommonDialog::Quit);  // without a help
+    showOrQuit(CommonDialog::ShowTopic);
     const QWidgetList windows = QApplication::topLevelWidgets();
     const auto found = std::find_if(windows.begin(), windows.end(), [](QWidget* each) {
         return each->windowTitle() == "TephrexEdit Help";
@@ -107,6 +111,8 @@ TEST_F(WindowTest, HelpIsReadByKeysAndKeepsItsPlaceUntilItIsClosed) {
     EXPECT_TRUE(window.isVisible());
     viewer.ShowHelp(form.CD1);
     EXPECT_EQ(page.textCursor().position(), 0);
+    showOrQuit(CommonDialog::Quit);
+    EXPECT_FALSE(help.isVisible());
 }
 
 TEST(HelpWindowTest, OpensBesideTheFormWhereThereIsRoom) {

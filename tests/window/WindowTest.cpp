@@ -30,14 +30,19 @@ TEST_F(WindowTest, OnlyKeysThatBringOrTakeACharacterCountAsPresses) {
         {[&] { box->setText("9"); }, true, "9"},  // as assistive technologies do
     };
     QApplication::clipboard()->setText("89");
+    std::string events;
+    form.txtWind.KeyPress = [&events, press = form.txtWind.KeyPress] { events += 'k', press(); };
+    form.txtWind.Change = [&events, change = form.txtWind.Change] { events += 'c', change(); };
     for (const Row& row : rows) {
         form.txtWind.SetText("123");
         form.Command2.SetEnabled(false);
         window.RunPendingEvents();
         box->setFocus();
         box->setCursorPosition(2);
+        events.clear();
         row.act();
         window.RunPendingEvents();
+        EXPECT_EQ(events.starts_with('k'), row.isPress) << events << &row - rows;
         EXPECT_EQ(Find("Command2")->isEnabled(), row.isPress) << "row " << &row - rows;
         EXPECT_EQ(form.txtWind.Text(), row.text) << "row " << &row - rows;
         EXPECT_EQ(form.txtWind.SelStart(), static_cast<std::size_t>(box->cursorPosition()));
@@ -55,6 +60,9 @@ TEST_F(WindowTest, FocusSelectsAllALaterClickPlacesTheCaretARewriteSendsItToTheE
         EXPECT_EQ(form.txtWind.SelLength(), 2U) << "though the widget has forgotten it";
     }
     mouseClick(wind, Qt::LeftButton);
+    form.txtWind.Select(0, 1);
+    window.RunPendingEvents();
+    EXPECT_EQ(wind->selectedText(), "1");
     mouseClick(wind, Qt::LeftButton, {}, QPoint(2, 5));
     EXPECT_EQ(form.txtWind.SelLength(), 0U);
     mouseClick(part, Qt::LeftButton);
