@@ -251,12 +251,12 @@ TEST_F(WindowMonkeyTest, EveryWidgetShowsItsControlWhateverTheUserDoes) {
     std::cout << "seed " << seed << std::endl;  // even if a sanitizer ends the program
     generator.seed(seed);
     RandomUser user(form, platform, folder, [this](std::size_t below) { return Choose(below); });
-    QStringList acts;
+    QStringList actions;
     for (unsigned long i = FromEnvironment("TEPHREX_MONKEY_ACTS", 2000); i > 0; --i) {
         platform.answers.clear();
         user.PrepareAnswer();
-        acts << Act();
-        acts = acts.mid(std::max<qsizetype>(acts.size() - 20, 0));
+        actions << Act();
+        actions = actions.mid(std::max<qsizetype>(actions.size() - 20, 0));
         if (QApplication::activePopupWidget() == nullptr) {
             window.activateWindow();  // as a desktop does when a menu or a message has gone
         }
@@ -264,7 +264,7 @@ TEST_F(WindowMonkeyTest, EveryWidgetShowsItsControlWhateverTheUserDoes) {
         Compare();
         EXPECT_EQ(user.Broken(), "");
         ASSERT_FALSE(HasFailure()) << "seed " << seed << ", " << i << " before the end, after\n"
-                                   << acts.join('\n').toStdString();
+                                   << actions.join('\n').toStdString();
     }
 }
 
