@@ -133,7 +133,7 @@ static_assert(ShownPhase().size() == FieldBoxes.size(), "a number for each box")
 ShownPhase NumbersOf(const PhaseRecord& phase) {
     ShownPhase shown{};
     std::transform(FieldBoxes.begin(), FieldBoxes.end(), shown.begin(), [&phase](const auto& row) {
-        return Shown{ValueOf(phase, row.field), row.onShow == Format::TwoDecimals ? 2 : 0};
+        return Shown{ValueOf(phase, row.field), row.shown == Format::TwoDecimals ? 2 : 0};
     });
     return shown;
 }

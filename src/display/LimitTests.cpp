@@ -12,8 +12,8 @@ double MapPosition(Single location, double factor) {
     return factor * static_cast<double>(location);
 }
 
-// The last location on the map at one end. The Single nearest to the quotient may be on the map or
-// off it; with a negative scale the map runs from right to left.
+// The last location on the map at one end. The quotient, rounded to a Single, may be just off the
+// map; with a negative scale the map runs from right to left.
 Single LastOnMap(double end, bool (*isOff)(Single, double), double factor) {
     const bool upwards = (end == MapStart) == (factor > 0);
     const Single far = std::numeric_limits<Single>::max() * (upwards ? 1.0F : -1.0F);
@@ -24,49 +24,49 @@ Single LastOnMap(double end, bool (*isOff)(Single, double), double factor) {
     return last;
 }
 
-Bounds NoBounds(const Judged& /*judged*/) { return {}; }
+Bounds NoBounds(const TestInput& /*input*/) { return {}; }
 
 using P = PhaseRecord;
 
-bool IsVentBeforeMap(Judged& j) { return IsBeforeMap(j.phase.ventLocation, j.factor); }
-bool IsVentAfterMap(Judged& j) { return IsAfterMap(j.phase.ventLocation, j.factor); }
-bool AreScarpsEqual(Judged& j) { return j.phase.scarpTop == j.phase.scarpBase; }
-bool LacksStyle(Judged& j) { return j.phase.calderaFlag == 1 && j.phase.calderaStyle == 0; }
+bool IsVentBeforeMap(TestInput& j) { return IsBeforeMap(j.phase.ventLocation, j.factor); }
+bool IsVentAfterMap(TestInput& j) { return IsAfterMap(j.phase.ventLocation, j.factor); }
+bool AreScarpsEqual(TestInput& j) { return j.phase.scarpTop == j.phase.scarpBase; }
+bool LacksStyle(TestInput& j) { return j.phase.calderaFlag == 1 && j.phase.calderaStyle == 0; }
 
-bool LacksSide(Judged& j) {
+bool LacksSide(TestInput& j) {
     return j.phase.tectonicKind == TectonicKind::Faulting && j.phase.faultDip == 0 &&
            j.phase.faultDownSide != DownSide::Left && j.phase.faultDownSide != DownSide::Right;
 }
 
-bool HasShortFlow(Judged& j) {
+bool HasShortFlow(TestInput& j) {
     j.badFlow = FirstBadFlow(j.phase, j.flows);
     return j.badFlow && j.badFlow->tooShort;
 }
-bool HasLongFlow(Judged& j) { return j.badFlow.has_value(); }
+bool HasLongFlow(TestInput& j) { return j.badFlow.has_value(); }
 
-bool IsTooShort(const Judged& j, int flow) {
+bool IsTooShort(const TestInput& j, int flow) {
     return j.flows[flow] < ShortestFlow(j.phase.eruptionType);
 }
-bool IsTooLong(const Judged& j, int flow) {
+bool IsTooLong(const TestInput& j, int flow) {
     return static_cast<double>(j.flows[flow]) > LongestFlow(j.phase, flow);
 }
 
 // With a flow length far out of range no duration passes: its ceiling is below its floor, or does
 // not fit in 16 bits.
-bool AnyDurationPasses(const Judged& j) {
+bool AnyDurationPasses(const TestInput& j) {
     const auto [lowest, highest] = FlowLengthsThatFit(j.phase.eruptionType, j.badFlow->flow);
     return j.phase.flowLength >= lowest && j.phase.flowLength <= highest &&
            LongestFlow(j.phase, j.badFlow->flow) >= ShortestFlow(j.phase.eruptionType);
 }
 
-Bounds LongEnough(const Judged& j) {
+Bounds LongEnough(const TestInput& j) {
     return AnyDurationPasses(j) ? Bounds{ShortestFlow(j.phase.eruptionType), {}} : Bounds{};
 }
-Bounds ShortEnough(const Judged& j) {
+Bounds ShortEnough(const TestInput& j) {
     if (!AnyDurationPasses(j)) {
         return {};
     }
-    return {{}, static_cast<Single>(LongestFlow(j.phase, j.badFlow->flow))};  // a whole number
+    return {{}, static_cast<Single>(LongestFlow(j.phase, j.badFlow->flow))};  // whole, so exact
 }
 
 }  // namespace
@@ -77,9 +77,9 @@ bool IsBeforeMap(Single location, double factor) {
 
 bool IsAfterMap(Single location, double factor) { return MapPosition(location, factor) > MapEnd; }
 
-Bounds OnMap(const Judged& judged) {
-    const Single start = LastOnMap(MapStart, IsBeforeMap, judged.factor);
-    const Single end = LastOnMap(MapEnd, IsAfterMap, judged.factor);
+Bounds OnMap(const TestInput& input) {
+    const Single start = LastOnMap(MapStart, IsBeforeMap, input.factor);
+    const Single end = LastOnMap(MapEnd, IsAfterMap, input.factor);
     return {std::min(start, end), std::max(start, end)};
 }
 

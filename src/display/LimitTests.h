@@ -12,7 +12,7 @@
 namespace LimitTests {
 
 // The input of the tests, and the bad flow that one of them has found.
-struct Judged {
+struct TestInput {
     const PhaseRecord& phase;
     const FlowRow& flows;
     double factor;  // MapFactor of the record
@@ -20,18 +20,18 @@ struct Judged {
 };
 
 struct Test {
-    bool (*fails)(Judged& judged);
+    bool (*fails)(TestInput& input);
     const PhaseField* field;  // null: the duration of a flow
-    Bounds (*passing)(const Judged& judged);
-    std::optional<Single> (*correction)(const Judged& judged) = nullptr;  // null: none
-    bool (*failsFor)(const Judged& judged, int flow) = nullptr;           // null unless for flows
+    Bounds (*passing)(const TestInput& input);
+    std::optional<Single> (*correction)(const TestInput& input) = nullptr;  // null: none
+    bool (*failsFor)(const TestInput& input, int flow) = nullptr;           // null unless for flows
 };
 
 template <auto Field, int Numerator, int Denominator>
 struct Floor {
     static constexpr Single Lowest = static_cast<Single>(Numerator) / Denominator;
-    static bool Fails(Judged& judged) { return judged.phase.*Field < Lowest; }
-    static Bounds Passing(const Judged& /*judged*/) { return {Lowest, {}}; }
+    static bool Fails(TestInput& input) { return input.phase.*Field < Lowest; }
+    static Bounds Passing(const TestInput& /*input*/) { return {Lowest, {}}; }
 };
 template <auto Field, int Numerator, int Denominator = 1>
 constexpr Test Below{Floor<Field, Numerator, Denominator>::Fails, &FieldOf(Field),
@@ -40,8 +40,8 @@ constexpr Test Below{Floor<Field, Numerator, Denominator>::Fails, &FieldOf(Field
 template <auto Field, int Most>
 struct Ceiling {
     static constexpr Single Highest = static_cast<Single>(Most);
-    static bool Fails(Judged& judged) { return judged.phase.*Field > Highest; }
-    static Bounds Passing(const Judged& /*judged*/) { return {{}, Highest}; }
+    static bool Fails(TestInput& input) { return input.phase.*Field > Highest; }
+    static Bounds Passing(const TestInput& /*input*/) { return {{}, Highest}; }
 };
 template <auto Field, int Most>
 constexpr Test Above{Ceiling<Field, Most>::Fails, &FieldOf(Field), Ceiling<Field, Most>::Passing};
@@ -49,18 +49,18 @@ constexpr Test Above{Ceiling<Field, Most>::Fails, &FieldOf(Field), Ceiling<Field
 // Whether a location is off the map at its start or its end, with the MapFactor of the record.
 bool IsBeforeMap(Single location, double factor);
 bool IsAfterMap(Single location, double factor);
-Bounds OnMap(const Judged& judged);
-// The location at the end of the map beyond which this one is, or this one if it is on the map.
+Bounds OnMap(const TestInput& input);
+// The location, or the nearest end of the map if it is off the map.
 Single PutOnMap(Single location, double factor);
 
 template <auto Scarp>
 struct Map {
-    static bool Fails(Judged& judged) {
-        const Single scarp = judged.phase.*Scarp;
-        return IsBeforeMap(scarp, judged.factor) || IsAfterMap(scarp, judged.factor);
+    static bool Fails(TestInput& input) {
+        const Single scarp = input.phase.*Scarp;
+        return IsBeforeMap(scarp, input.factor) || IsAfterMap(scarp, input.factor);
     }
-    static std::optional<Single> Correction(const Judged& judged) {
-        return PutOnMap(judged.phase.*Scarp, judged.factor);
+    static std::optional<Single> Correction(const TestInput& input) {
+        return PutOnMap(input.phase.*Scarp, input.factor);
     }
 };
 template <auto Scarp>

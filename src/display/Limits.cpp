@@ -115,32 +115,32 @@ consteval bool EachTypeHasRows() {
     }
     return true;
 }
-static_assert(EachTypeHasRows(), "each eruption type has checks that do not apply to all");
+static_assert(EachTypeHasRows(), "each eruption type has a check that lists it");
 static_assert(LastEruptionType + 1 < std::numeric_limits<Types>::digits, "a bit for each type");
 
-Judged MakeJudged(const PhaseRecord& phase, const FlowRow& flows, Integer recordScale) {
+TestInput MakeInput(const PhaseRecord& phase, const FlowRow& flows, Integer recordScale) {
     if (recordScale == 0) {
         throw std::domain_error("Division by zero");
     }
     return {phase, flows, MapFactor(recordScale)};
 }
 
-Fault FaultOf(const Check& check, const Judged& judged) {
+Fault FaultOf(const Check& check, const TestInput& input) {
     const Test& test = check.test;
-    return {check.message, test.field, judged.badFlow ? judged.badFlow->flow : 0,
-            test.passing(judged), test.correction ? test.correction(judged) : std::nullopt};
+    return {check.message, test.field, input.badFlow ? input.badFlow->flow : 0, test.passing(input),
+            test.correction ? test.correction(input) : std::nullopt};
 }
 
 bool IsForFlows(const Check& check) { return check.test.field == nullptr; }
 
-// Judges one flow by each row for flows; the row of the floor comes first. False if the ceiling
-// does not fit in 16 bits.
-bool JudgeFlow(Judged judged, int flow, std::vector<Fault>& faults) {
+// Judges one flow by every check for flows, the floor first. False if the ceiling does not fit in
+// 16 bits.
+bool JudgeFlow(TestInput input, int flow, std::vector<Fault>& faults) {
     try {
         for (const Check& check : Checks) {
-            if (IsForFlows(check) && check.test.failsFor(judged, flow)) {
-                judged.badFlow = BadFlow{flow, &check.test == &FlowTooShort};
-                faults.push_back(FaultOf(check, judged));
+            if (IsForFlows(check) && check.test.failsFor(input, flow)) {
+                input.badFlow = BadFlow{flow, &check.test == &FlowTooShort};
+                faults.push_back(FaultOf(check, input));
             }
         }
         return true;
@@ -149,14 +149,14 @@ bool JudgeFlow(Judged judged, int flow, std::vector<Fault>& faults) {
     }
 }
 
-void JudgeFlows(const Judged& judged, std::vector<Fault>& faults) {
+void JudgeFlows(const TestInput& input, std::vector<Fault>& faults) {
     bool overflowed = false;
-    for (int flow = 1; flow <= judged.phase.burstCount; ++flow) {
-        overflowed |= !JudgeFlow(judged, flow, faults);
+    for (int flow = 1; flow <= input.phase.burstCount; ++flow) {
+        overflowed |= !JudgeFlow(input, flow, faults);
     }
     if (overflowed) {
         const auto [lowest, highest] =
-            FlowLengthsThatFit(judged.phase.eruptionType, judged.phase.burstCount);
+            FlowLengthsThatFit(input.phase.eruptionType, input.phase.burstCount);
         faults.push_back({.message = "Overflow",
                           .field = &FieldOf(&PhaseRecord::flowLength),
                           .passing = {lowest, highest},
@@ -168,11 +168,11 @@ void JudgeFlows(const Judged& judged, std::vector<Fault>& faults) {
 
 std::optional<Fault> FirstFault(const PhaseRecord& phase, const FlowRow& flows,
                                 Integer recordScale) {
-    Judged judged = MakeJudged(phase, flows, recordScale);
+    TestInput input = MakeInput(phase, flows, recordScale);
     std::optional<Fault> fault;
     for (const Check& check : Checks) {
-        if (check.IsFor(phase) && check.test.fails(judged)) {
-            fault = FaultOf(check, judged);
+        if (check.IsFor(phase) && check.test.fails(input)) {
+            fault = FaultOf(check, input);
             if (check.then == Then::Stop) {
                 return fault;
             }
@@ -182,7 +182,7 @@ std::optional<Fault> FirstFault(const PhaseRecord& phase, const FlowRow& flows,
 }
 
 std::vector<Fault> AllFaults(const PhaseRecord& phase, const FlowRow& flows, Integer recordScale) {
-    Judged judged = MakeJudged(phase, flows, recordScale);
+    TestInput input = MakeInput(phase, flows, recordScale);
     std::vector<Fault> faults;
     bool flowsJudged = false;
     for (const Check& check : Checks) {
@@ -191,10 +191,10 @@ std::vector<Fault> AllFaults(const PhaseRecord& phase, const FlowRow& flows, Int
         }
         if (IsForFlows(check)) {
             if (!std::exchange(flowsJudged, true)) {
-                JudgeFlows(judged, faults);
+                JudgeFlows(input, faults);
             }
-        } else if (check.test.fails(judged)) {
-            faults.push_back(FaultOf(check, judged));
+        } else if (check.test.fails(input)) {
+            faults.push_back(FaultOf(check, input));
         }
     }
     return faults;
@@ -203,11 +203,11 @@ std::vector<Fault> AllFaults(const PhaseRecord& phase, const FlowRow& flows, Int
 Bounds WidestBounds(const PhaseField& field, Integer recordScale) {
     const PhaseRecord phase;
     const FlowRow flows;
-    const Judged judged = MakeJudged(phase, flows, recordScale);
+    const TestInput input = MakeInput(phase, flows, recordScale);
     Bounds widest;
     for (const Check& check : Checks) {
         if (check.test.field == &field) {
-            const auto [lowest, highest] = check.test.passing(judged);
+            const auto [lowest, highest] = check.test.passing(input);
             widest.lowest =
                 lowest ? std::min(*lowest, widest.lowest.value_or(*lowest)) : widest.lowest;
             widest.highest =

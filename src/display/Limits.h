@@ -11,7 +11,7 @@
 
 /// A limit that a phase breaks.
 struct Fault {
-    std::string_view message;  // follows "Phase n" in the report, so it starts with a blank
+    std::string_view message;           // Save shows it after "Phase n", so it starts with a blank
     const PhaseField* field = nullptr;  // the field at fault; null for the duration of a flow
     int flow = 0;                       // the flow at fault, 0 if none
     Bounds passing;                     // empty if no range of this field alone would pass
@@ -30,6 +30,6 @@ std::optional<Fault> FirstFault(const PhaseRecord& phase, const FlowRow& flows,
 /// "Overflow". Throws as above for the scale and the number of flows.
 std::vector<Fault> AllFaults(const PhaseRecord& phase, const FlowRow& flows, Integer recordScale);
 
-/// The lowest and the highest value of a field that any type allows at this scale; empty where no
-/// type has a limit. Throws std::domain_error for a scale of 0.
+/// The lowest and the highest limit of a field at this scale, over all types; empty where no type
+/// has one. Throws std::domain_error for a scale of 0.
 Bounds WidestBounds(const PhaseField& field, Integer recordScale);

@@ -71,7 +71,7 @@ void ShowType(RecordEdit& form, Integer pha) {
     if (pha == 0 && phase.eruptionType == EruptionType::Tectonic) {
         return;  // element 0 of an empty record is not an erosion
     }
-    // A code that is not a type leaves the name and type of the phase shown before.
+    // A code that is not a type leaves cmbType and CurType as they were.
     if (const TypeEntry* entry = EntryOf(phase)) {
         form.cmbType.SetText(entry->name);
         form.CurType = entry->eruptionType;
@@ -82,7 +82,7 @@ void ShowType(RecordEdit& form, Integer pha) {
 void FillBoxes(RecordEdit& form, Integer pha) {
     for (const FieldBox& row : FieldBoxes) {
         const Single value = ValueOf(form.EditPhases[pha], row.field);
-        (form.*row.box).SetText(form.TextOf(value, row.onShow));
+        (form.*row.box).SetText(form.TextOf(value, row.shown));
     }
 }
 

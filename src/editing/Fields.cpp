@@ -12,7 +12,7 @@ using P = PhaseRecord;
 
 // clang-format off
 constexpr std::array<FieldBox, 20> FieldBoxes{{
-    // label         box            field                        on show      rewritten
+    // label         box            field                        shown        rewritten
     {&E::labLoc,    &E::txtLoc,    FieldOf(&P::ventLocation),   TwoDecimals, {}},
     {&E::labWind,   &E::txtWind,   FieldOf(&P::wind),           Whole,       {}},
     {&E::labPart,   &E::txtPart,   FieldOf(&P::massFlux),       Whole,       Plain},

@@ -1,6 +1,6 @@
 // The parameter boxes of a phase as one table, in the order in which ShowData fills them: which
 // field a box edits, and how its number is written. txtLava is not in the table: it edits the flow
-// that is named in the list of flows.
+// named in cmbFlow.
 #pragma once
 
 #include <array>
@@ -12,11 +12,11 @@ struct FieldBox {
     LabelMember label;
     BoxMember box;
     const PhaseField& field;
-    Format onShow;
-    Format rewritten;  // used only if the field is clamped to a range
+    Format shown;      // how ShowData writes the number
+    Format rewritten;  // how a clamped number is written back; unused without a range
 };
 
-/// All 20 fields that have a box of their own.
+/// The 20 fields that have a box.
 extern const std::array<FieldBox, 20> FieldBoxes;
 
 /// The row of a box, which must be in the table.

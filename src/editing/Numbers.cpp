@@ -11,8 +11,8 @@ namespace {
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 bool IsSign(char c) { return c == '+' || c == '-'; }
 
-// Whether a number outside the range of its type is too large and not too small: its first digit
-// other than 0 is before the decimal point once the exponent is applied.
+// Whether a number outside the range of its type is too large rather than too small: its first
+// digit other than 0 is before the decimal point once the exponent is applied.
 bool IsAtLeastOne(std::string_view digits) {
     const std::size_t exponentAt = std::min(digits.find_first_of("eE"), digits.size());
     const std::string_view mantissa = digits.substr(0, exponentAt);
@@ -37,7 +37,7 @@ Conversion Convert(std::string_view text, Number& value) {
     if (!text.empty() && IsSign(text.front())) {
         text.remove_prefix(1);
     }
-    // The library also accepts a second minus and names such as "inf", which are not numbers here.
+    // from_chars also accepts a second minus and names such as "inf", which are not numbers here.
     if (text.empty() || !(IsDigit(text.front()) || text.front() == '.')) {
         return Conversion::NoNumber;
     }
@@ -132,7 +132,7 @@ Decimal FindDecimal(std::string_view text, const Separators& separators) {
 
 // The Single of a decimal text; nothing if it is too large or not a number.
 std::optional<Single> ToSingle(std::string_view decimal) {
-    // Half a step above the largest Single: a double from here on rounds to no finite one.
+    // Half a step above the largest Single: a double from here on does not round to a finite one.
     constexpr double limit = 0x1.ffffffp127;
     double value = 0;
     if (FromDecimal(decimal, value) != Conversion::Number || std::abs(value) >= limit) {

@@ -13,7 +13,7 @@ Integer NamedPhase(const RecordEdit& form) {
     return named != 0 ? static_cast<Integer>(named) : form.CurPhase;
 }
 
-// Sets all fields but the mapping fields, which keep the values of the element.
+// Sets all fields but the mapping fields, which keep what is in this element of the table.
 void SetStartingValues(PhaseRecord& phase) {
     PhaseRecord fresh;
     fresh.eruptionType = EruptionType::None;

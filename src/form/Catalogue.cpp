@@ -202,22 +202,22 @@ consteval bool AllExist(std::span<const NamedText> names) {
     return std::all_of(names.begin(), names.end(),
                        [](const NamedText& each) { return FindRow(each.control) != nullptr; });
 }
-static_assert(AllExist(Tips) && AllExist(Labels) && AllExist(Names),
+static_assert(AllExist(Tips) && AllExist(Labels) && AllExist(Names) && AllExist(Descriptions),
               "each text is for a control with a row");
 static_assert(std::all_of(Labels.begin(), Labels.end(),
                           [](const NamedText& row) {
                               const CatalogueRow* const label = FindRow(row.text);
                               return label != nullptr && label->kind == ControlKind::Label;
                           }),
-              "each label is a label with a row");
+              "each control is labelled by a Label with a row");
 
 consteval bool HasAccessibleName(const CatalogueRow& row) {
-    const auto names = [&row](const NamedText& each) { return each.control == row.name; };
+    const auto isForRow = [&row](const NamedText& each) { return each.control == row.name; };
     const bool edited = row.kind == ControlKind::TextBox || row.kind == ControlKind::ComboBox;
     const bool captioned =
         !edited && (row.kind != ControlKind::CommandButton || !row.caption.empty());
-    return captioned || std::any_of(Labels.begin(), Labels.end(), names) ||
-           std::any_of(Names.begin(), Names.end(), names);
+    return captioned || std::any_of(Labels.begin(), Labels.end(), isForRow) ||
+           std::any_of(Names.begin(), Names.end(), isForRow);
 }
 static_assert(std::all_of(Rows.begin(), Rows.end(), HasAccessibleName),
               "a control without a caption has a label or an accessible name");

@@ -27,8 +27,8 @@ enum class Look {
 };
 
 /// Places and sizes are in twips, from the top left corner of the frame, or of the form if `frame`
-/// is empty. `tab` is the place in the form's Tab order, from 0; of two controls that overlap the
-/// one with the higher `tab` lies above.
+/// is empty. `tab` is the place in the form's Tab order, from 0; of two controls that overlap, the
+/// one with the higher `tab` is on top.
 struct CatalogueRow {
     std::string_view name;
     ControlKind kind;

@@ -45,6 +45,7 @@ private:
 
 class Control {
 public:
+    /// Joins the form, which must outlive it. The name must be unique in the form.
     Control(Form& owner, std::string_view ownName);
     Control(const Control&) = delete;
     Control& operator=(const Control&) = delete;
@@ -69,8 +70,8 @@ public:
     Event MouseMove;
 
 protected:
-    /// Stores a new value and notifies the observer; does nothing and returns false for the same
-    /// one.
+    /// Stores a new value and notifies the observer. Does nothing and returns false if the property
+    /// already has it.
     template <class Property, class Value>
     bool Assign(Property& property, const Value& value) {
         if (property == value) {
@@ -177,7 +178,8 @@ public:
     Event KeyPress;
 
     const std::string& Text() const { return text; }
-    /// Stores a different text, moves the insertion point to its end and raises Change.
+    /// Stores the text, moves the insertion point to its end and raises Change; does nothing if
+    /// the text is the same.
     void SetText(std::string_view newText);
 
     std::size_t SelStart() const { return selStart; }
@@ -214,6 +216,7 @@ public:
     void SetText(std::string_view newText) { Assign(text, newText); }
 
     const std::vector<std::string>& Entries() const { return entries; }
+    /// Adds an entry at the end.
     void AddItem(std::string entry);
     /// Removes the entry at a position counted from 0; throws std::out_of_range if there is none.
     void RemoveItem(std::size_t position);
@@ -231,8 +234,8 @@ private:
     std::vector<std::string> entries;
 };
 
-/// The dialog for file names, and the settings of the help viewer. One object is used for all: a
-/// property that is not set again keeps its last value.
+/// The dialog for file names, and the settings of the help viewer. One object is used for all
+/// calls: a property that is not set again keeps its last value.
 class CommonDialog : public Control {
 public:
     using Control::Control;

@@ -46,8 +46,8 @@ void Require(bool holds, std::string_view name) {
 
 RecordEdit::RecordEdit() {
     for (const Control* control : Controls()) {
-        const auto names = [control](const auto& row) { return row.name == control->Name(); };
-        Require(std::ranges::any_of(Catalogue(), names), control->Name());
+        const auto isItsRow = [control](const auto& row) { return row.name == control->Name(); };
+        Require(std::ranges::any_of(Catalogue(), isItsRow), control->Name());
     }
     for (const CatalogueRow& row : Catalogue()) {
         Control* const control = Find(row.name);

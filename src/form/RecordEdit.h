@@ -15,8 +15,8 @@ constexpr std::string_view ApplicationTitle = "TephrexEdit";
 
 /// About half a megabyte, like EditorState: create it on the heap.
 struct RecordEdit : Form, EditorState {
-    /// Sets up every control from the catalogue, as before loading; no event has a handler. Throws
-    /// std::logic_error if the controls and the catalogue differ.
+    /// Sets up every control from the catalogue, as it is before loading; no event has a handler
+    /// yet. Throws std::logic_error if the controls and the catalogue differ.
     RecordEdit();
 
     Frame Frame1{*this, "Frame1"};

@@ -1,4 +1,4 @@
-// Connects every event of the form to its handler. What the handlers do is in their own units.
+// Connects every event of the form to its handler. The handlers are in other units.
 #pragma once
 
 struct RecordEdit;

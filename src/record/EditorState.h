@@ -35,7 +35,7 @@ struct EditorState {
     std::string RecFile;                      // full path; empty if the record has never had a file
     Integer RecordScale = ScaleCode::NotSet;  // of the map; shared by both copies
     Integer CurPhase = 0;                     // the phase shown, 0 for none
-    Integer CurType = 0;                      // its eruption type, -1 for none
-    bool FormFilling = false;                 // true while the display resets the option controls
-    std::string DataPath;  // the data folder; file names are appended to it directly
+    Integer CurType = 0;                      // the eruption type shown, -1 for none
+    bool FormFilling = false;                 // true while ShowData resets the option controls
+    std::string DataPath;  // the data folder; file names are appended without a slash
 };

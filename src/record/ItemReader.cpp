@@ -64,8 +64,8 @@ bool ItemReader::Is(std::size_t position, unsigned classes) const {
     return (ClassOf(buffer[position]) & classes) != 0;
 }
 
-// The fast path: a number that its separator follows at once, both in the buffer. Returns false and
-// leaves the item in place otherwise.
+// The fast path: a number directly followed by its separator, both in the buffer. Otherwise returns
+// false and does not consume the item.
 template <class Number>
 bool ItemReader::ReadInPlace(Number& value) {
     SkipPending();
@@ -169,7 +169,7 @@ int ItemReader::LineEndsIn(std::size_t first, std::size_t last) const {
     return count;
 }
 
-// What is skipped belongs to one item, so the longest item limits it too.
+// Skipped bytes belong to one item, so LongestItem limits them too.
 template <class Condition>
 void ItemReader::SkipWhile(Condition condition) {
     for (std::size_t skipped = 0; More() && condition(); ++at) {

@@ -21,9 +21,8 @@ struct ReadError : std::runtime_error {
 /// The most bytes that an item can have, or that can be skipped before or after it.
 constexpr std::size_t LongestItem = 65535;
 
-/// Splits a stream into items. It reads no further than the piece in which an item ends, and
-/// consumes what follows an item only when the next one is requested. Every read throws ReadError
-/// if there is no item.
+/// Splits a stream into items. Reads it in pieces, and past the piece in which an item ends only
+/// when the next one is requested. Every read throws ReadError if there is no item.
 class ItemReader {
 public:
     /// The stream must outlive the reader.
@@ -32,7 +31,7 @@ public:
     /// An item of any kind, as text; the view is valid until the next item is read.
     std::string_view Text();
 
-    /// Skips an item that ends where a number would, at a blank too, whatever it contains.
+    /// Skips one item, whatever it contains. Like a number it ends at a blank too.
     void SkipNumber();
 
     /// Reads a number; 0 for an item that is not a number. For an Integer a fraction is rounded, a
@@ -40,13 +39,13 @@ public:
     void Read(Single& value);
     void Read(Integer& value);
 
-    /// The line of the last item's first character, counted from 1: of its opening quote, or of the
-    /// separator of an empty item. CR LF, LF and CR end a line, in quotes too. If there was no
-    /// item, the last line that has a byte.
+    /// The line of the last item's first character, counted from 1: for a quoted item its opening
+    /// quote, for an empty one its separator. CR LF, LF and CR end a line, in quotes too. If there
+    /// was no item, the line of the stream's last byte.
     std::int64_t Line() const { return itemLine; }
 
-    /// Whether the last item was a number directly followed by its separator. For any other item,
-    /// until the next is read: its text, and whether it was in quotes.
+    /// True only if the last item was a number directly followed by its separator. If false, Item
+    /// and Quoted give its text and whether it was in quotes, until the next item is read.
     bool Plain() const { return pending == Pending::Nothing; }
     std::string_view Item() const { return item; }
     bool Quoted() const { return pending == Pending::Rest; }
@@ -55,12 +54,14 @@ public:
     /// once the next item has been read or LineOfTrailingText called.
     bool Dropped() const { return dropped; }
 
-    /// The line of the first character after the last item that is neither a blank nor a line end;
-    /// 0 if there is none. Reads to it, or to the end of the stream; then no item can be read.
+    /// The line of the first character after the last item, and after what is dropped after its
+    /// closing quote, that is neither a blank nor a line end; 0 if there is none. Reads to it, or
+    /// to the end of the stream; do not read another item afterwards.
     std::int64_t LineOfTrailingText();
 
 private:
-    // What is still between the last item and the next.
+    // What has not been consumed after the last item: nothing, its separator, or, if it was in
+    // quotes, everything from the closing quote on.
     enum class Pending { Nothing, Separator, Rest };
 
     bool Is(std::size_t position, unsigned classes) const;
@@ -85,7 +86,7 @@ private:
     bool ended = false;
     bool dropped = false;
     std::string_view item;
-    char lastByte = 0;  // of the stream, so far
+    char lastByte = 0;  // the last byte received so far
     Pending pending = Pending::Nothing;
     std::int64_t line = 1;  // of the next byte
     std::int64_t itemLine = 1;

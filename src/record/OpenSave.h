@@ -1,4 +1,4 @@
-// Opens and saves a record, with the file dialogs and messages. The text form of the file is in
+// Opens and saves a record, with the file dialogs and messages. The text format of the file is in
 // RecordFile.
 #pragma once
 

@@ -42,7 +42,7 @@ constexpr FieldRange AboveZero{FieldRange::AboveZero};
 constexpr FieldRange Between(Single low, Single high) { return {FieldRange::Between, low, high}; }
 
 // clang-format off
-// In the order of the file, which is not quite the declared one: burstFlag is next to burstCount.
+// In the order of the file, not of declaration: burstFlag comes after burstCount.
 inline constexpr std::array<PhaseField, 27> PhaseFields{{
     // name           member              line  range
     {"ventLocation",   &P::ventLocation,   3,    Any},

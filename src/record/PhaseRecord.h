@@ -1,5 +1,5 @@
 // One phase of a record: its 27 numbers and the codes that some of them hold. Their text
-// form is in RecordFile, their limits are in Limits.
+// format is in RecordFile, their limits are in Limits.
 #pragma once
 
 #include <algorithm>

@@ -1,7 +1,7 @@
-// The text form of a record: reading a stream into the loaded copy and writing the loaded copy to
+// The text format of a record: reading a stream into the loaded copy and writing the loaded copy to
 // a stream, and the same for a named file. No dialogs, no controls.
 //
-// The form: lines that end in CR LF, items with one comma between them, texts in double quotes.
+// The format: lines that end in CR LF, items with one comma between them, texts in double quotes.
 //
 //     "Stratigraphic file:",StratFile
 //     "Recorded phases",LoadedPhaseCount,RecordScale
@@ -43,8 +43,8 @@ struct ReadResult {
 /// read before that is kept.
 ReadResult ReadRecord(std::streambuf& source, EditorState& state);
 
-/// The same with any reader that has the functions of ItemReader. `place` is kept at the item being
-/// read.
+/// The same with any reader that has the functions of ItemReader. Sets `place` to each item before
+/// reading it.
 template <class Reader>
 ReadResult ReadRecordWith(Reader& in, EditorState& state, ItemPlace& place) {
     try {
@@ -72,5 +72,5 @@ bool IsStorable(std::string_view reference);
 bool WriteRecord(std::streambuf& target, const EditorState& state);
 
 /// Overwrites the file in place; true only if every byte was written and the file closed without an
-/// error. A reference that is not storable fails before the file is touched; so does a pipe.
+/// error. A reference that is not storable, or a pipe, fails before the file is touched.
 bool WriteRecordFile(const std::string& path, const EditorState& state);

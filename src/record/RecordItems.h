@@ -27,7 +27,7 @@ constexpr std::string_view PhaseCountLabel = "Recorded phases";
 constexpr std::string_view PhaseLabel = "Record Phase: ";
 
 /// The name of an item: that of its field, "flow 3", "phase count" and so on. Throws
-/// std::out_of_range for a place that no record has.
+/// std::out_of_range if `item` is negative or, in the header, above RecordScale.
 std::string NameOf(const ItemPlace& place);
 
 /// Reads the items of the block of a phase into the phase and its flows. Throws ReadError for more
@@ -56,9 +56,9 @@ void ReadPhaseItems(Reader& in, ItemPlace& place, PhaseRecord& phase, FlowRow& f
     }
 }
 
-/// Reads a record into the loaded copy. `place` is kept at the item being read. The reader needs
-/// the functions of ItemReader; its exceptions are not caught. Throws ReadError for a phase count
-/// outside 0 to 500.
+/// Reads a record into the loaded copy. Sets `place` to each item before reading it. The reader
+/// needs the functions of ItemReader; its exceptions are not caught. Throws ReadError for a phase
+/// count outside 0 to 500.
 template <class Reader>
 void ReadRecordItems(Reader& in, ItemPlace& place, EditorState& state) {
     place = {0, ItemPlace::HeaderLabel};

@@ -63,7 +63,7 @@ void ReadData(RecordEdit& form) {
         CopyPhases(form);
         form.CurPhase = form.EditPhaseCount != 0 ? 1 : 0;
         ShowData(form, form.CurPhase);
-        form.Command2.SetEnabled(false);  // the display may have enabled it
+        form.Command2.SetEnabled(false);  // ShowData may have enabled it
     });
 }
 

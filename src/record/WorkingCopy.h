@@ -1,5 +1,5 @@
-// Rebuilds the working copy from the loaded copy and shows what concerns all phases. The way back,
-// from the working copy to the loaded one, is in ApplyParams.
+// Rebuilds the working copy from the loaded copy and shows what concerns the whole record. Copying
+// the working copy to the loaded copy is in ApplyParams.
 #pragma once
 
 struct RecordEdit;

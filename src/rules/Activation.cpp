@@ -9,7 +9,7 @@
 
 namespace {
 
-// A control that FieldBoxes does not list, with the row of what it edits.
+// A control that FieldBoxes does not list, with the grid row of what it edits.
 struct OptionControl {
     Control& (*control)(RecordEdit& form);
     const UseRow& (*use)();

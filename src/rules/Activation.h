@@ -6,8 +6,8 @@
 
 struct RecordEdit;
 
-/// Enables exactly the parameter controls that the type uses, 0 to 7; for any other type only the
-/// speed. The boxes must already show the current phase, which is not changed. A failure is
+/// Enables exactly the parameter controls that `etype` uses; for a code that is not a type, only
+/// the speed. The boxes must already show the current phase, which is not changed. A failure is
 /// reported.
 void DataActivate(RecordEdit& form, Integer etype);
 

@@ -15,7 +15,7 @@ struct TypeEntry {
     std::optional<Integer> tectonicKind;  // empty: the phase keeps its kind
 };
 
-/// The entries of the list, in its order.
+/// The entries of the list of types, in the order shown.
 constexpr std::array<TypeEntry, 9> TypeEntries{{
     {"Hawaiian", EruptionType::Hawaiian, {}},
     {"Peléean", EruptionType::Pelean, {}},

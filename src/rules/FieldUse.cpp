@@ -78,7 +78,7 @@ constexpr bool FlowsAgree() {
     }
     return true;
 }
-static_assert(FlowsAgree(), "a type has flows in the grid exactly if it has them in the file");
+static_assert(FlowsAgree(), "a type has flows in the grid exactly when it has them in the file");
 
 }  // namespace
 

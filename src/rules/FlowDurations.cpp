@@ -7,7 +7,7 @@
 
 namespace {
 
-// The flow length at which durations are unscaled; each step away adds or takes a tenth.
+// The flow length at which durations are unscaled; each step away adds or subtracts a tenth.
 constexpr int NeutralFlowLength = 6;
 
 // The longest duration at the neutral flow length.

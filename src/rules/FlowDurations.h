@@ -35,6 +35,6 @@ FlowLengths FlowLengthsThatFit(Integer eruptionType, int last);
 /// LongestFlow, and std::out_of_range for a flow above 100.
 std::optional<BadFlow> FirstBadFlow(const PhaseRecord& phase, const FlowRow& flows);
 
-/// A new duration for flow number `flow`, from a random number r as above. `hawaiian` selects the
-/// rule. For a `flowLength` of 1 to 11 the result is within the limits above.
+/// A new duration for flow number `flow` of a Hawaiian or, without `hawaiian`, a Peléean phase,
+/// from a random number r as above. For a `flowLength` of 1 to 11 it is within the limits above.
 Single NewFlowDuration(bool hawaiian, Integer flowLength, int flow, Single r);

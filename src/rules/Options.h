@@ -1,6 +1,6 @@
 // The handlers of a phase's check boxes and of its lists of styles, sides and flows. Each changes
-// the current phase at once and enables Save; while FormFilling is true it does nothing. What a
-// phase is shown with is in ShowData and Activation.
+// the current phase at once and enables Save; while FormFilling is true it does nothing.
+// Showing a phase is in ShowData and Activation.
 #pragma once
 
 struct RecordEdit;

@@ -22,7 +22,7 @@ void ResetEruption(RecordEdit& form) {
     using E = RecordEdit;
     for (const BoxMember box : {&E::txtLoc, &E::txtStr, &E::txtWind, &E::txtPart, &E::txtBurst,
                                 &E::txtCbase, &E::txtCtop}) {
-        (form.*box).SetText(form.TextOf(0, BoxRow(box).onShow));
+        (form.*box).SetText(form.TextOf(0, BoxRow(box).shown));
     }
 }
 

@@ -1,5 +1,5 @@
-// The handlers for what concerns the whole record: the stratigraphic file and the map scale; and
-// for the help. Opening and saving the record file is in OpenSave.
+// The handlers for the stratigraphic file, the map scale and the help. Opening and saving the
+// record file is in OpenSave.
 #pragma once
 
 struct RecordEdit;

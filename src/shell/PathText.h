@@ -7,7 +7,7 @@
 #include <string_view>
 
 /// The length in bytes of the UTF-8 sequence at the start of `text`, which must not be empty; 1 if
-/// it starts with none.
+/// there is none.
 std::size_t SequenceLength(std::string_view text);
 
 /// A text of more than 40 characters as "..." and its last 37; any other as it is. Counts code

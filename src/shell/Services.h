@@ -61,7 +61,7 @@ public:
     virtual bool Flush(const std::string& path) = 0;
 };
 
-/// A size in twips, 1440 to the inch at the form's scale.
+/// A size in twips. A twip is 1/1440 inch, scaled as the form is.
 struct Extent {
     int width = 0;
     int height = 0;

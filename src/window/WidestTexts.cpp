@@ -29,7 +29,7 @@ Single LongestBelow(Single end) {
 
 Texts InRange(const RecordEdit& form, const FieldBox& row) {
     const FieldRange& range = row.field.range;
-    Texts texts{form.TextOf(range.low, row.onShow), form.TextOf(range.high, row.onShow)};
+    Texts texts{form.TextOf(range.low, row.shown), form.TextOf(range.high, row.shown)};
     if (row.rewritten == Format::Plain) {
         texts.push_back(form.TextOf(LongestBelow(range.high), row.rewritten));
     }
@@ -42,7 +42,7 @@ Texts WithinLimits(const RecordEdit& form, const FieldBox& row) {
     const Bounds limits = WidestBounds(row.field, ScaleCode::Large);
     for (const auto& limit : {limits.lowest, limits.highest}) {
         if (limit) {
-            texts.push_back(form.TextOf(*limit, row.onShow));
+            texts.push_back(form.TextOf(*limit, row.shown));
         }
     }
     return texts;
@@ -53,7 +53,7 @@ Texts NumbersIn(const RecordEdit& form, const FieldBox& row) {
         case FieldRange::Between: return InRange(form, row);
         case FieldRange::AnyNumber: return WithinLimits(form, row);
         case FieldRange::AboveZero:
-            return {form.TextOf(std::numeric_limits<Integer>::max(), row.onShow)};
+            return {form.TextOf(std::numeric_limits<Integer>::max(), row.shown)};
     }
     return {};
 }
