@@ -41,14 +41,10 @@ BENCHMARK(DrawLargest)->Name("Draw the largest record as SVG")->UseManualTime();
 void DrawTen(benchmark::State& state, const char* kind) {
     const RecordOnDisk file(10);
     const std::string picture = file.Path() + kind;
-    Compare(
-        state, {1.3},
-        [&] {
-            return RunToEnd({TEPHREX_PROGRAMS "/one_text", picture}).processorSeconds;
-        },
-        [&] {
-            return RunToEnd({TEPHREX_DRAW, file.Path(), "-o", picture}).processorSeconds;
-        });
+    const Command reference{TEPHREX_PROGRAMS "/one_text", picture};
+    const Command draw{TEPHREX_DRAW, file.Path(), "-o", picture};
+    const auto writeOneText = [&] { return RunToEnd(reference).processorSeconds; };
+    Compare(state, {1.3}, writeOneText, [&] { return RunToEnd(draw).processorSeconds; });
     std::filesystem::remove(picture);
 }
 BENCHMARK_CAPTURE(DrawTen, svg, ".svg")->Name("Draw ten phases, SVG")->UseManualTime();

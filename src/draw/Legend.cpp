@@ -149,9 +149,7 @@ struct MarkEntry {
 
 constexpr std::array MarkEntries{
     MarkEntry{Mark::Wind, "Wind, by speed",
-              [] {
-                  return Shapes{Arrow(Mark::Wind, {1.5, 3.4}, 8, Palette::Ink)};
-              }},
+              [] { return Shapes{Arrow(Mark::Wind, QPointF(1.5, 3.4), 8, Palette::Ink)}; }},
     MarkEntry{Mark::Flows, "Flow durations against their ceilings", FlowSample},
     MarkEntry{Mark::Caldera, "Caldera",
               [] { return Shapes{CalderaMark(Middle - QPointF(0, 2.5), 0)}; }},
@@ -162,9 +160,7 @@ constexpr std::array MarkEntries{
     MarkEntry{Mark::Bursts, "Explosive bursts", [] { return Shapes{BurstMark(Middle, 1.8)}; }},
     MarkEntry{Mark::Ground, "Side thrown down", DownSample},
     MarkEntry{Mark::OffMap, "Off the map",
-              [] {
-                  return Shapes{Arrow(Mark::OffMap, {4, 3.2}, 3.4, Palette::Vermilion)};
-              }},
+              [] { return Shapes{Arrow(Mark::OffMap, QPointF(4, 3.2), 3.4, Palette::Vermilion)}; }},
     MarkEntry{Mark::Refused, "Cannot be saved; +n: further reasons",
               [] { return Shapes{RefusedMark(Middle - QPointF(0, 2))}; }},
 };

@@ -126,10 +126,10 @@ inline Single ValueOf(const PhaseRecord& phase, const PhaseField& field) {
 /// std::integral_constant, so `visit` can use it at compile time.
 template <class Phase, class Visit>
 constexpr void ForEachField(Phase& phase, Visit visit) {
-    [&]<std::size_t... I>(std::index_sequence<I...>) {
+    const auto visitAll = [&]<std::size_t... I>(std::index_sequence<I...>) {
         (visit(std::integral_constant<std::size_t, I>{},
                phase.*std::get<PhaseFields[I].member.index()>(PhaseFields[I].member)),
          ...);
-    }
-    (std::make_index_sequence<PhaseFields.size()>{});
+    };
+    visitAll(std::make_index_sequence<PhaseFields.size()>{});
 }
