@@ -62,9 +62,9 @@ private:
     ListBox& list;
 };
 
-// The toolkit reports an option that is not auto-exclusive as a check box, but only without
-// auto-exclusion does the Tab key reach every option of a group. A label can have one option of a
-// group as its buddy, yet it names all of them.
+// An option is not auto-exclusive, so that the Tab key reaches each option of its group; the
+// toolkit would report it as a check box. A label that has one option as its buddy is the label of
+// the whole group.
 class OptionAccess : public QAccessibleWidget {
 public:
     using Relation = QPair<QAccessibleInterface*, QAccessible::Relation>;
@@ -79,7 +79,8 @@ public:
         return state;
     }
 
-    // Screen readers use the first label they find, which would be the frame.
+    // Leaves out the toolkit's own labels: screen readers use the first one, which would be the
+    // frame.
     QList<Relation> relations(QAccessible::Relation wanted) const override {
         QList<Relation> found = QAccessibleWidget::relations(wanted & ~QAccessible::Label);
         if (wanted.testFlag(QAccessible::Label)) {

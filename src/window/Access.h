@@ -14,6 +14,6 @@ void DescribeWidgets();
 /// Screen readers are notified only if the name changes.
 void SetSpokenName(QWidget& widget, QString caption);
 
-/// Names the box that is the label's buddy after the label. Any other buddy, or none, is left
-/// alone: a button or an option is named by its own caption.
+/// If the label's buddy is a text box or combo box, names it after the label. Any other buddy keeps
+/// its own caption as its name.
 void NameBuddy(const QLabel& label);

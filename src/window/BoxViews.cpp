@@ -38,12 +38,12 @@ void TextBoxView::Update() {
     View::Update();
 }
 
-// Tabbing into a box is not yet working in it.
+// Tabbing into a box does not count as working in it.
 bool TextBoxView::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() == QEvent::FocusIn) {
         const Qt::FocusReason reason = static_cast<const QFocusEvent*>(event)->reason();
         if (reason != Qt::TabFocusReason && reason != Qt::BacktabFocusReason) {
-            NoteWork();
+            RememberLastBox();
         }
     }
     return View::eventFilter(watched, event);
@@ -52,14 +52,14 @@ bool TextBoxView::eventFilter(QObject* watched, QEvent* event) {
 bool TextBoxView::ShowsText() const { return widget.text() == ToScreen(control.Text()); }
 
 void TextBoxView::ForwardKey() {
-    NoteWork();
+    RememberLastBox();
     const std::string text = ShownText();
     control.PressKey(text, BytePlace(text, widget.cursorPosition()));
     ForwardSelection();
 }
 
 void TextBoxView::ForwardEdit() {
-    NoteWork();
+    RememberLastBox();
     const std::string text = ShownText();
     control.Edit(text, BytePlace(text, widget.cursorPosition()));
     ForwardSelection();
@@ -98,7 +98,7 @@ void TextBoxView::ShowSelection() {
 
 ComboBoxView::ComboBoxView(const ViewParts& parts) : ViewOf(parts) {
     QPalette pale = PalePalette(widget.palette(), PaleYellow);
-    widget.setPalette(pale);  // before the highlight: the frame shows the focus in the desktop's
+    widget.setPalette(pale);  // the frame keeps the desktop's highlight to show the focus
     pale.setColor(QPalette::Highlight, QColor(0, 84, 147));
     pale.setColor(QPalette::HighlightedText, Qt::white);
     widget.view()->setPalette(pale);

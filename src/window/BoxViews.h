@@ -26,7 +26,7 @@ private:
     void ShowSelection();
 };
 
-/// Shows a combo box with its entries, and forwards picks and text set by an assistive technology.
+/// Shows a combo box with its entries, and forwards picks and changes of its text.
 class ComboBoxView : public ViewOf<ComboBox, ListBox> {
 public:
     explicit ComboBoxView(const ViewParts& parts);

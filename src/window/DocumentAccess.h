@@ -6,7 +6,7 @@
 
 class QTextEdit;
 
-/// Offsets count characters of the document; those outside it are moved to its nearest end.
+/// Offsets are in UTF-16 units of the text; one outside it counts as the nearest end.
 class DocumentAccess : public QAccessibleWidget, public QAccessibleTextInterface {
 public:
     explicit DocumentAccess(QTextEdit& ownPage);

@@ -1,5 +1,5 @@
-// Asks for file names with the title, filter and flags of the common dialog. How a typed name is
-// read is in FileNameDialog.
+// Asks for file names with the title, filter and flags of the common dialog. FileNameDialog
+// interprets a typed name.
 #pragma once
 
 #include <QString>

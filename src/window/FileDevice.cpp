@@ -24,8 +24,8 @@ bool FlushOpened(const char* path, int flags) {
     return close(file) == 0 && flushed;
 }
 
-// Flushes the folder of the file, after symbolic links. True without a flush if the folder may not
-// be read, or if there is none: an open pipe or terminal has none.
+// Flushes the folder of the file, with symbolic links resolved. True without a flush if the folder
+// is not readable, or if the path cannot be resolved, like that of an open pipe.
 bool FlushFolder(const std::string& path) {
     std::error_code error;
     const auto folder = std::filesystem::canonical(path, error).parent_path();

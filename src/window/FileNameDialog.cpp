@@ -37,7 +37,7 @@ QStringList NameFilters(std::string_view filter) {
     return filters;
 }
 
-// Shows names with stand-ins, also while they are edited.
+// Shows names with stand-ins, even while they are edited.
 class NameDelegate : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -62,7 +62,7 @@ public:
     }
 };
 
-// Gives the names and tips of folders in a model of the toolkit's their stand-ins. The toolkit
+// Puts stand-ins into the names and tips in one of the toolkit's models of folders. The toolkit
 // never reads these names back.
 void ShowStandIns(QAbstractItemModel& folders) {
     const auto keep = [&folders](const QModelIndex& index, int role) {
@@ -80,8 +80,9 @@ void ShowStandIns(QAbstractItemModel& folders) {
                      });
 }
 
-// Some desktops' own dialogs check for an existing file before they add the extension, and so
-// replace a file without asking. Without them, the toolkit creates its own widgets here.
+// Turns off the desktop's own dialog, so that the toolkit creates its widgets, and returns its name
+// box. Some desktops' dialogs check for an existing file before they add the extension, and so
+// replace a file without asking.
 QLineEdit& NameBox(QFileDialog& dialog) {
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     return *dialog.findChild<QLineEdit*>("fileNameEdit");
@@ -184,24 +185,24 @@ void FileNameDialog::Offer(const QString& folder, const QString& name) {
 
 void FileNameDialog::accept() {
     const QString name = WithoutStandIns(box.text());
-    if (EnterFolder(SelectedFolder(), box.text()) || name.isEmpty()) {
+    if (EnterFolder(SelectedPath(), box.text()) || name.isEmpty()) {
         return;
     }
     const bool unchanged = name == offered && directory().path() == offeredFolder;
     const QString path = unchanged ? offeredPath : PathOfName(name);
-    const QString nameLeft = acceptMode() == AcceptSave ? offered : QString();
-    if (EnterFolder(path, nameLeft)) {
+    const QString nameToKeep = acceptMode() == AcceptSave ? offered : QString();
+    if (EnterFolder(path, nameToKeep)) {
         return;
     }
     const bool keepAsIs = (unchanged || acceptMode() == AcceptOpen) && QFileInfo::exists(path);
     const QString file = keepAsIs ? path : WithExtension(path);
-    if (!EnterFolder(file, nameLeft) && ConfirmChoice(file)) {
+    if (!EnterFolder(file, nameToKeep) && ConfirmChoice(file)) {
         chosen = file;
         done(Accepted);
     }
 }
 
-// The toolkit disables its buttons for names that it cannot read as a file name; we can.
+// The toolkit disables its buttons for names that it would reject; here they are valid.
 bool FileNameDialog::eventFilter(QObject* watched, QEvent* event) {
     auto* const button = qobject_cast<QPushButton*>(watched);
     if (button != nullptr && event->type() == QEvent::EnabledChange && !box.text().isEmpty()) {
@@ -231,8 +232,8 @@ QString FileNameDialog::WithExtension(const QString& path) const {
     return hasOne || !NameFits(extended) ? path : extended;
 }
 
-// The folder that the user has selected in the list and will enter by the button; empty if none.
-QString FileNameDialog::SelectedFolder() const {
+// The path of the file or folder selected in the list; empty while the user edits the name instead.
+QString FileNameDialog::SelectedPath() const {
     if (!selecting || box.hasFocus()) {
         return {};
     }

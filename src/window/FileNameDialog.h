@@ -1,4 +1,4 @@
-// The toolkit's file dialog, but with our own rules for the file that a typed name means.
+// The toolkit's file dialog, but with our own rules for which file a typed name means.
 #pragma once
 
 #include <QFileDialog>
@@ -8,12 +8,13 @@ class CommonDialog;
 class QAbstractButton;
 class QLineEdit;
 
-/// The text in the name box is taken literally, as one name: the toolkit would read quotes as a
-/// list of names and "~name" as a home folder, and cut names off at a line end.
+/// The text in the name box is one name, taken literally except for "~" and "~/" at its start, the
+/// home folder. The toolkit would read quotes as a list of names and "~name" as a home folder, and
+/// cut names off at a line end.
 class FileNameDialog : public QFileDialog {
 public:
-    /// Takes title, filter, flags and default extension from `dialog`. For opening or saving:
-    /// `mode`.
+    /// Takes title, filter, flags and default extension from `dialog`. `mode` is for opening or
+    /// saving.
     FileNameDialog(QWidget& parent, const CommonDialog& dialog, AcceptMode mode);
 
     /// Starts in this folder, which has to exist, with this name, which can be empty.
@@ -33,7 +34,7 @@ private:
 
     QString PathOfName(const QString& name) const;
     QString WithExtension(const QString& path) const;
-    QString SelectedFolder() const;
+    QString SelectedPath() const;
     bool EnterFolder(const QString& path, const QString& nameThere);
     bool ConfirmChoice(const QString& path);
 

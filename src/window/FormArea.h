@@ -11,8 +11,8 @@ public:
     /// The parent of the controls, as large as the form.
     QWidget* Page() const { return widget(); }
 
-    /// The size of the area that shows the whole page, at most `room`. Includes the scroll bars
-    /// that it needs if the page is larger than the room.
+    /// The size at which the area shows the whole page, but at most `room`. Includes the scroll
+    /// bars needed for a page larger than the room.
     QSize SizeWithin(const QSize& room) const;
 
     /// Scrolls just far enough to show a widget of the page and its label.

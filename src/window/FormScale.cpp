@@ -10,7 +10,7 @@ namespace {
 
 constexpr double UsualScale = 96.0 / 1440;
 
-// The height for the text. In a frame it is the strip above the topmost control, for the title.
+// The height available for the text; in a frame, that of the strip above its topmost control.
 int Headroom(const CatalogueRow& row) {
     int room = row.height;
     for (const CatalogueRow& other : Catalogue()) {
@@ -29,8 +29,8 @@ bool Covers(const CatalogueRow& upper, const CatalogueRow& lower) {
 }
 
 // Borders and arrows can grow with the height, so a larger scale can require a still larger one. As
-// the controls are wider than high, this converges quickly; the limit is for styles where it does
-// not.
+// the controls are wider than they are high, this converges quickly; the limit is for styles where
+// it does not.
 double ScaleToFit(View& view, const QString& text, double scale) {
     constexpr int maxRounds = 8;
     const CatalogueRow& row = view.Row();

@@ -116,7 +116,7 @@ void FormWindow::ChainTabs() {
     }
 }
 
-// What a screen reader says of controls without a caption or tip of their own.
+// For screen readers: gives controls without a caption a label or name, and some a description.
 void FormWindow::NameViews() {
     for (const NamedText& row : ControlLabels()) {
         if (auto* const label = qobject_cast<QLabel*>(&Find(row.text)->Widget())) {
@@ -241,7 +241,7 @@ void FormWindow::FitToScreen() {
             Qt::UniqueConnection);
 }
 
-// Moving the widget could still assume a frame of no size, though `frame` is already known.
+// QWidget::move could still assume an empty frame, although `frame` is already known.
 void FormWindow::MoveFrame(const QPoint& corner) {
     if (frame.isNull()) {
         move(corner);

@@ -1,5 +1,6 @@
-// The window of the form: makes the views from the catalogue, and connects the toolkit's events
-// with the changes of the form. How a single control looks is in Views.
+// The window of the form: makes the views from the catalogue, forwards the focus and the closing of
+// the window to the form, and marks the views of controls that change. The views show the single
+// controls.
 #pragma once
 
 #include <QIcon>
@@ -29,11 +30,14 @@ public:
 
     /// In twips at the form's scale.
     Extent ScreenSize() override;
-    /// In twips at the form's scale, with the window's frame once that is known.
+    /// In twips at the form's scale, including the window's frame once that is known.
     Extent FormSize() override;
-    /// To this place on the screen, in twips, or to the nearest where the whole window is visible.
+    /// Moves the top left corner to this place on the screen, in twips, or to the nearest place at
+    /// which the whole window is visible.
     void Move(int left, int top) override;
+    /// Brings the views up to date, fits the window to its screen and shows it.
     void Show() override;
+    /// Brings the views up to date, then handles the pending events.
     void RunPendingEvents() override;
     /// Closes the window. The first time it closes, in whatever way, the form's Unload is raised.
     void Unload() override;

@@ -19,7 +19,7 @@ bool HeldKeys::eventFilter(QObject* watched, QEvent* event) {
     }
 }
 
-// X repeats a held key as a release and a press with the same time stamp. The toolkit recognises
+// X11 repeats a held key as a release and a press with the same time stamp. The toolkit recognises
 // such a pair only if both events are already in its queue.
 void HeldKeys::Note(const QKeyEvent& press) {
     const bool paired = press.timestamp() != 0 && press.timestamp() == releaseTime;

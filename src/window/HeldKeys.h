@@ -24,5 +24,5 @@ private:
     int releasedKey = 0;
     quint64 releaseTime = 0;
     bool repeating = false;
-    QPointer<QWidget> pressedIn;  // had the focus at the last key press that was no repeat
+    QPointer<QWidget> pressedIn;  // had the focus at the last key press that was not a repeat
 };

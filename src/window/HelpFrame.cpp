@@ -113,7 +113,8 @@ QLayout* HelpFrame::NewFindRow() {
     return row;
 }
 
-HelpFrame::~HelpFrame() { page->setDocument(nullptr); }  // destroyed before the page
+// The document is destroyed before the page.
+HelpFrame::~HelpFrame() { page->setDocument(nullptr); }
 
 void HelpFrame::ShowDocument(std::unique_ptr<QTextDocument> next) {
     page->setDocument(next.get());
@@ -149,7 +150,7 @@ void HelpFrame::showEvent(QShowEvent* event) {
 void HelpFrame::AddKeys() {
     using Action = void (HelpFrame::*)();
     const std::pair<QKeyCombination, Action> keys[]{
-        {Qt::CTRL | Qt::Key_F, &HelpFrame::AskForWord},
+        {Qt::CTRL | Qt::Key_F, &HelpFrame::FocusFindBox},
         {Qt::Key_F3, &HelpFrame::FindNext},
         {Qt::SHIFT | Qt::Key_F3, &HelpFrame::FindPrevious},
         {Qt::Key_Escape, &HelpFrame::LeaveOrClose},
@@ -190,12 +191,12 @@ void HelpFrame::GoTo(int place) {
     page->setFocus();
 }
 
-void HelpFrame::AskForWord() {
+void HelpFrame::FocusFindBox() {
     word->setFocus();
     word->selectAll();
 }
 
-// Escape moves from the Find box to the text, and from there closes the window.
+// Escape moves from the Find box to the text; elsewhere it closes the window.
 void HelpFrame::LeaveOrClose() {
     if (word->hasFocus()) {
         page->setFocus();
@@ -206,7 +207,7 @@ void HelpFrame::LeaveOrClose() {
 
 void HelpFrame::Find(Direction direction) {
     if (word->text().isEmpty()) {
-        AskForWord();
+        FocusFindBox();
         return;
     }
     const bool back = direction == Direction::Backward;

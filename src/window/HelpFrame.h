@@ -1,4 +1,4 @@
-// The window that shows the help: a list of the headings, the text, a box to find a word. HelpText
+// The window that shows the help: a list of headings, the text and a box to find a word. HelpText
 // reads the text.
 #pragma once
 
@@ -28,7 +28,7 @@ public:
     HelpFrame();
     ~HelpFrame() override;
 
-    /// Shows the document from its beginning and lists its headings. Not null.
+    /// Shows the document, which must not be null, from its beginning and lists its headings.
     void ShowDocument(std::unique_ptr<QTextDocument> next);
 
     /// A size at which the text is easy to read, and the smallest useful one, without the frame.
@@ -44,7 +44,7 @@ private:
     void AddKeys();
     void ListHeadings();
     void GoTo(int place);
-    void AskForWord();
+    void FocusFindBox();
     void FindNext() { Find(Direction::Forward); }
     void FindPrevious() { Find(Direction::Backward); }
     void LeaveOrClose();

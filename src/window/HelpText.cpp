@@ -30,7 +30,7 @@ struct Reference {
     QTextCharFormat format;
 };
 
-std::vector<Reference> PicturesAndLinks(const QTextDocument& document) {
+std::vector<Reference> ImagesAndLinks(const QTextDocument& document) {
     std::vector<Reference> found;
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
         for (auto part = block.begin(); !part.atEnd(); ++part) {
@@ -56,7 +56,7 @@ QTextCharFormat PlainFormat(QTextCharFormat format) {
 
 // The toolkit would load images from wherever they are as soon as it lays out the document.
 void KeepTextOnly(QTextDocument& document) {
-    std::vector<Reference> references = PicturesAndLinks(document);
+    std::vector<Reference> references = ImagesAndLinks(document);
     QTextCursor cursor(&document);
     for (; !references.empty(); references.pop_back()) {  // last first: offsets stay valid
         const auto& [start, end, format] = references.back();

@@ -66,18 +66,18 @@ void HelpWindow::ShowTopic(const CommonDialog& dialog) {
     viewer->activateWindow();
 }
 
-// Assumes a window frame as large as the form's. A window that the user has moved is left there,
-// unless it would cover the form.
+// Assumes a window frame as large as the form's. A window that already has a place keeps it, unless
+// it would cover the form.
 void HelpWindow::Place() {
     const QRect taken = form.window()->frameGeometry();
     const QRect inside = form.window()->geometry();
-    const QMargins bars(inside.left() - taken.left(), inside.top() - taken.top(),
-                        taken.right() - inside.right(), taken.bottom() - inside.bottom());
+    const QMargins frame(inside.left() - taken.left(), inside.top() - taken.top(),
+                         taken.right() - inside.right(), taken.bottom() - inside.bottom());
     if (viewer->testAttribute(Qt::WA_Moved) && !viewer->frameGeometry().intersects(taken)) {
         return;
     }
     const QRect place =
-        PlaceBeside(taken, form.screen()->availableGeometry(), viewer->size().grownBy(bars),
-                    viewer->SmallestSize().grownBy(bars));
-    viewer->setGeometry(place.marginsRemoved(bars));
+        PlaceBeside(taken, form.screen()->availableGeometry(), viewer->size().grownBy(frame),
+                    viewer->SmallestSize().grownBy(frame));
+    viewer->setGeometry(place.marginsRemoved(frame));
 }

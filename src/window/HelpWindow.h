@@ -8,8 +8,9 @@
 #include "window/HelpFrame.h"
 
 /// Where to put a window of the wanted size on the screen so that it does not cover the form. It is
-/// made smaller if necessary, but not below `smallest`; if there is no room for that, it goes to
-/// the right of the screen, over the form. All sizes include the window frame, in logical pixels.
+/// made smaller if necessary, but not below `smallest`; if no side has room for that, it goes to
+/// the right edge of the screen, over the form. All sizes include the window frame, in logical
+/// pixels.
 QRect PlaceBeside(const QRect& form, const QRect& screen, QSize wanted, QSize smallest);
 
 class HelpWindow : public HelpViewer {
@@ -17,8 +18,8 @@ public:
     /// The help opens beside this widget, which has to outlive the viewer.
     explicit HelpWindow(const QWidget& ownForm) : form(ownForm) {}
 
-    /// Shows the topic in front of the other windows, or closes the viewer if it is open. Does
-    /// nothing for any other `HelpCommand`.
+    /// As `HelpCommand` says, shows the topic in front of the other windows or closes the viewer.
+    /// Ignores any other command.
     void ShowHelp(const CommonDialog& dialog) override;
 
 private:

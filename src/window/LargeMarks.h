@@ -1,5 +1,5 @@
-// The indicators of check boxes and option buttons in a large font, here called marks. Styles draw
-// them in the same size for all fonts.
+// Enlarges the indicators of check boxes and option buttons, here called marks, for a large font.
+// Styles draw them in the same size for all fonts.
 #pragma once
 
 #include <QAbstractButton>

@@ -55,15 +55,15 @@ void LineBox::ReportIfMoved() {
     }
 }
 
-QString LineBox::Delivered(const QString& typed) const {
-    const bool onKeyboards = decimalSign == nullptr || decimalSign->size() == 1;  // so ASCII
-    return !onKeyboards && (typed == "." || typed == ",") ? ToScreen(*decimalSign) : typed;
+QString LineBox::WithDecimalSign(const QString& typed) const {
+    const bool onKeyboard = decimalSign == nullptr || decimalSign->size() == 1;  // one byte: ASCII
+    return !onKeyboard && (typed == "." || typed == ",") ? ToScreen(*decimalSign) : typed;
 }
 
 void LineBox::keyPressEvent(QKeyEvent* event) {
     QKeyEvent delivered(event->type(), event->key(), event->modifiers(), event->nativeScanCode(),
                         event->nativeVirtualKey(), event->nativeModifiers(),
-                        Delivered(event->text()), event->isAutoRepeat());
+                        WithDecimalSign(event->text()), event->isAutoRepeat());
     inKeyPress = IsKeyPress(delivered);
     TextLine::keyPressEvent(&delivered);
     event->setAccepted(delivered.isAccepted());
@@ -74,7 +74,7 @@ void LineBox::keyPressEvent(QKeyEvent* event) {
 
 void LineBox::inputMethodEvent(QInputMethodEvent* event) {
     inKeyPress = !event->commitString().isEmpty();
-    event->setCommitString(Delivered(event->commitString()), event->replacementStart(),
+    event->setCommitString(WithDecimalSign(event->commitString()), event->replacementStart(),
                            event->replacementLength());
     TextLine::inputMethodEvent(event);
     if (std::exchange(inKeyPress, false)) {
@@ -87,8 +87,8 @@ void LineBox::focusInEvent(QFocusEvent* event) {
     TextLine::focusInEvent(event);
 }
 
-// The click that gives the box the focus leaves the whole text selected. The base class does not
-// get it, as it would clear the selection.
+// The click that gives the box the focus leaves the whole text selected: the base class, which
+// would clear the selection, never sees it.
 void LineBox::mousePressEvent(QMouseEvent* event) {
     ignoreClick = std::exchange(focusByMouse, false) && event->button() == Qt::LeftButton;
     if (!ignoreClick) {

@@ -17,8 +17,8 @@ public:
     void SetDecimalSign(const std::string& sign) { decimalSign = &sign; }
 
 signals:
-    /// A key was pressed that can insert or delete at the insertion point, and the text is up to
-    /// date. It need not have changed.
+    /// A key was pressed that can insert or delete at the insertion point, or an input method
+    /// entered text. The text is up to date, but need not have changed.
     void KeyPressed();
     /// The user changed the text in any other way.
     void Edited();
@@ -39,7 +39,7 @@ private:
     void ReportIfEdited();
     void AnnounceIfUndone();
     void ReportIfMoved();
-    QString Delivered(const QString& typed) const;
+    QString WithDecimalSign(const QString& typed) const;
 
     const std::string* decimalSign = nullptr;  // null: not a box for numbers
     bool inKeyPress = false;

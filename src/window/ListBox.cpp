@@ -57,8 +57,9 @@ void ListBox::showPopup() {
     view()->setCurrentIndex(found.value(0));
 }
 
-// The toolkit closes the list and then emits activated. It also emits it on other occasions, even
-// for a text set by code, but always after a key press in the box or after a loss of focus.
+// For a picked entry, the toolkit closes the list and then emits activated. It also emits it at
+// other times, even for a text set by code, but only after a key press in the box or a loss of
+// focus.
 void ListBox::hidePopup() {
     justClosed = true;
     QComboBox::hidePopup();
@@ -71,7 +72,7 @@ void ListBox::PickIfJustClosed(int position) {
 }
 
 // Mouse and keys move the current entry and the selection of the open list together. An assistive
-// technology picks an entry by selecting one that is not the current entry.
+// technology picks an entry by selecting it without making it the current one.
 void ListBox::PickIfSelectedExternally() {
     const QModelIndex selected = view()->selectionModel()->selectedIndexes().value(0);
     if (view()->isVisible() && selected.isValid() && selected != view()->currentIndex()) {

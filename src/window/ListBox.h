@@ -40,5 +40,5 @@ private:
 
     TextLine* line;
     QStringListModel* entries;
-    bool justClosed = false;  // the list; no key press or loss of focus since then
+    bool justClosed = false;  // the list closed, without a key press or loss of focus since
 };

@@ -24,7 +24,7 @@ void Mirror::BringUpToDate() {
     }
     updating = true;
     // Disabling a widget moves the focus to the widget of an enabled control, which must be enabled
-    // by then: so those come first. The change of focus can mark more views.
+    // by then: so enabled controls come first. The change of focus can mark more views.
     const auto enabled = [](const Mirrored* view) { return view->IsEnabled(); };
     while (!marked.empty()) {
         const auto found = std::find_if(marked.begin(), marked.end(), enabled);

@@ -1,5 +1,5 @@
 // Decides when views are updated: once, when a user action ends, and not for each change within it.
-// What a view shows is in the views.
+// The views decide what they show.
 #pragma once
 
 #include <QObject>
@@ -7,13 +7,13 @@
 
 class Control;
 
-/// What the mirror updates: the view of one control.
+/// Anything that the mirror updates: in the program, the views.
 class Mirrored {
 public:
     virtual ~Mirrored() = default;
     /// Makes the widget show the control's current state.
     virtual void Update() = 0;
-    /// Whether the control is enabled; the widget may still have to be updated.
+    /// Whether the control is enabled; the widget may not show it yet.
     virtual bool IsEnabled() const = 0;
 
 protected:
@@ -22,7 +22,7 @@ protected:
     Mirrored& operator=(const Mirrored&) = default;
 };
 
-/// A marked view must not be destroyed before its update.
+/// Collects the views to update. A marked view must not be destroyed before its update.
 class Mirror : public QObject {
 public:
     /// Create one in every function through which the toolkit delivers a user action. They can
@@ -42,14 +42,14 @@ public:
     /// updated from the event loop.
     void Mark(Mirrored& view);
 
-    /// Updates all marked views, including those marked meanwhile.
+    /// Updates all marked views, including those marked meanwhile. Does nothing during an update.
     void BringUpToDate();
 
-    /// Remembers the box in which the user last worked; null before the first.
-    void NoteWork(const Control& box) { lastBox = &box; }
+    /// The box in which the user last worked; null before the first.
+    void SetLastBox(const Control& box) { lastBox = &box; }
     const Control* LastBox() const { return lastBox; }
 
-    /// Whether views are being updated. Signals that widgets emit meanwhile are no user actions.
+    /// Whether views are being updated. Signals that widgets emit meanwhile are not user actions.
     bool Updating() const { return updating; }
 
 private:

@@ -9,7 +9,7 @@
 
 namespace {
 
-// Puts stand-ins into the file name in the questions that the toolkit's file dialog asks.
+// Puts stand-ins into the file name if the text is a question of the toolkit's file dialog.
 QString Shown(const QString& text) {
     for (const QString& question :
          {QFileDialog::tr("'%1' is write protected.\nDo you want to delete it anyway?"),

@@ -3,6 +3,6 @@
 
 class QObject;
 
-/// As long as `owner` lives, labels of all windows show plain text, unless they were explicitly set
-/// to markup. File names in questions of the toolkit are shown with stand-ins.
+/// As long as `owner` lives, labels of all windows show plain text, unless explicitly set to
+/// markup. File names in the toolkit's own questions are shown with stand-ins.
 void KeepLabelsPlain(QObject& owner);

@@ -38,22 +38,23 @@ QString Decoded(std::string_view bytes) {
 
 // Unicode line ends, and the characters that embed, override or isolate a writing direction. Plain
 // direction marks are ordinary parts of names and are left alone.
-bool BreaksOrTurnsLine(char16_t code) {
+bool BreaksOrReordersLine(char16_t code) {
     return (code >= 0x2028 && code <= 0x202E) || (code >= 0x2066 && code <= 0x2069);
 }
 
 bool NeedsStandIn(QChar character) {
-    return character.category() == QChar::Other_Control || BreaksOrTurnsLine(character.unicode());
+    return character.category() == QChar::Other_Control ||
+           BreaksOrReordersLine(character.unicode());
 }
 
 // A stand-in is a low surrogate without its high one: fonts show it as a replacement character. Its
-// low bits are those of the character. If the character with these bits alone needs no stand-in,
-// the original was the one from U+2000 on.
-constexpr char16_t LoneHalf = 0xDC00;
-constexpr char16_t Kept = 0x3FF;
+// low bits are those of the original. Those bits alone are the original if that needs a stand-in;
+// otherwise the original is 0x2000 higher.
+constexpr char16_t LoneSurrogate = 0xDC00;
+constexpr char16_t LowBits = 0x3FF;
 
 char16_t Original(char16_t standIn) {
-    const auto code = static_cast<char16_t>(standIn & Kept);
+    const auto code = static_cast<char16_t>(standIn & LowBits);
     return NeedsStandIn(code) ? code : static_cast<char16_t>(0x2000 | code);
 }
 
@@ -62,7 +63,7 @@ char16_t Original(char16_t standIn) {
 QString WithStandIns(QString text) {
     for (QChar& character : text) {
         if (NeedsStandIn(character)) {
-            character = QChar(LoneHalf | (character.unicode() & Kept));
+            character = QChar(LoneSurrogate | (character.unicode() & LowBits));
         }
     }
     return text;

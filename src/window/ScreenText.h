@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-/// Replaces each control character, line end and bidirectional control by a visible stand-in: on
+/// Replaces each control character, line end and bidirectional control with a visible stand-in: on
 /// the screen it would be invisible, cut off the line or reorder it. Stand-ins never occur in
 /// decoded UTF-8, so texts can be edited, copied and undone with them, and `WithoutStandIns`
 /// restores the original text.
@@ -28,7 +28,8 @@ QString ToScreen(std::string_view bytes);
 std::string FromScreen(const QString& shown);
 
 /// Converts an offset in the bytes into one in the text that ToScreen makes of them (in UTF-16
-/// units), and back. An offset after the end counts as the end; it must not be negative.
+/// units), and back. An offset after the end counts as the end; it must be neither negative nor
+/// inside a character.
 int ScreenPlace(std::string_view bytes, std::size_t place);
 std::size_t BytePlace(std::string_view bytes, int place);
 

@@ -11,7 +11,7 @@
 
 namespace {
 
-// Numbers outside the list pick nothing; Pick checks its end.
+// A number outside the list picks nothing; Pick checks the upper end.
 void PickPhase(RecordEdit& form, int number) {
     if (number >= 1) {
         form.cmbPhase.Pick(static_cast<std::size_t>(number) - 1);

@@ -16,7 +16,7 @@ SizeLimits::SizeLimits(QWidget& ownWindow)
 void SizeLimits::Lift() {
     if (needed && !lifted) {
         lifted = true;
-        window.winId();  // makes the platform's window
+        window.winId();  // creates the platform's window
         window.windowHandle()->setMinimumSize({0, 0});
         window.windowHandle()->setMaximumSize({QWIDGETSIZE_MAX, QWIDGETSIZE_MAX});
     }
@@ -34,8 +34,9 @@ bool SizeLimits::eventFilter(QObject* watched, QEvent* event) {
     return QObject::eventFilter(watched, event);
 }
 
-// A frame drawn by the toolkit can be dragged in spite of the limits: then the window gets its own
-// size back. An imposed size is kept, without limits, until the compositor withdraws it.
+// The user can drag a frame drawn by the toolkit to another size in spite of the limits: then the
+// window gets its own size back. An imposed size is kept, without limits, until the compositor
+// withdraws it.
 void SizeLimits::Restore() {
     const QSize own = window.minimumSize();
     const bool imposed = window.isMaximized() || window.isFullScreen() ||

@@ -7,8 +7,7 @@
 
 class SizeLimits : public QObject {
 public:
-    /// The window becomes its parent. On other platforms it does nothing: there the limits do no
-    /// harm.
+    /// The window becomes its parent. Without Wayland it does nothing: there the limits do no harm.
     explicit SizeLimits(QWidget& ownWindow);
 
     /// Call it before the window is shown: a size can be imposed from the start.

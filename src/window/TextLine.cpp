@@ -19,7 +19,8 @@ bool IsText(const QString& text) {
     return !text.isEmpty() && text.front().category() != QChar::Other_Control;
 }
 
-// With Control the toolkit itself types only the digits and signs of the keypad.
+// With Control alone, the toolkit types only the digits and signs of the keypad; those are ignored
+// here.
 bool IsIgnoredChord(const QKeyEvent& event) {
     const auto held = event.modifiers();
     return IsChord(held) && (held.testFlag(Qt::AltModifier) || held.testFlag(Qt::MetaModifier) ||

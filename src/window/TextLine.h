@@ -18,5 +18,5 @@ protected:
     bool event(QEvent* event) override;
 };
 
-/// Whether a key press types a character.
+/// Whether a key press types a character. Key combinations, other than with AltGr, do not.
 bool TypesCharacter(const QKeyEvent& event);

@@ -56,8 +56,9 @@ protected:
         }
     }
 
-    /// The same for text set by an assistive technology. The toolkit announces that text as soon as
-    /// this returns, so the view is updated later: the last text announced is then the one shown.
+    /// The same for a text that an assistive technology may have set. The toolkit announces that
+    /// text as soon as this returns, so the view is updated later: the last text announced is then
+    /// the one shown.
     template <class Action>
     void OnTextSet(Action action) {
         if (!mirror.Updating()) {
@@ -66,8 +67,8 @@ protected:
         }
     }
 
-    /// Records that the user works in this box.
-    void NoteWork() { mirror.NoteWork(shownControl); }
+    /// Call it when the user works in this box; tabbing into it does not count.
+    void RememberLastBox() { mirror.SetLastBox(shownControl); }
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -98,8 +99,8 @@ private:
           widget(ownWidget) {}
 };
 
-/// The palette with this pale background, also on a dark desktop, and with dark text on it.
+/// The palette with this pale background and dark text on it, even on a dark desktop.
 QPalette PalePalette(QPalette palette, QColor background);
 
-/// The palette with disabled texts that are greyed but readable: messages refer to them.
+/// The palette with disabled texts that are grey but readable: messages refer to them.
 QPalette ReadableWhenGreyed(QPalette palette);

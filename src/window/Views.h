@@ -1,5 +1,5 @@
-// The views: one class for each kind of control, none for a single control. Where a control departs
-// from the look of its kind is in its row of the catalogue.
+// The views: one class for each kind of control, none for a single control. The row of a control in
+// the catalogue says how it differs from the usual look of its kind.
 #pragma once
 
 #include <memory>
