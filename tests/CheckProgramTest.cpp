@@ -1,11 +1,11 @@
-// tephrexcheck from outside: what it takes, prints and ends with.
+// Runs tephrexcheck: its options, its output and its exit status.
 #include <cstdio>
 
 #include "TestForm.h"
 
 namespace {
 
-// What the program prints in this folder, and its status.
+// Runs the program in this folder; returns what it prints and its exit status.
 std::string Printed(const TempFolder& folder, const std::string& arguments) {
     const std::string command = "cd '" + folder / "" + "' && '" TEPHREX_CHECK "' " + arguments;
     setenv("TERM", "xterm", 1);
@@ -18,7 +18,7 @@ std::string Printed(const TempFolder& folder, const std::string& arguments) {
     return text;
 }
 
-TEST(CheckProgramTest, TheProgramListsRecordsInOrderAndItsStatusIsTheWorstOfThem) {
+TEST(CheckProgramTest, ListsRecordsInOrderAndExitsWithTheWorstStatus) {
     const std::string demo = ReadBytes(TEPHREX_DATA "/TephrexDemo.rec");
     const std::string warned = Replaced(demo, "14,20", "14,0");
     const std::string invalid = Replaced(demo, "0.2,-8", "0.2,-80");

@@ -1,5 +1,5 @@
-// What tephrexcheck says of records: every check with its line and value, everything that is read
-// otherwise than it looks.
+// What tephrexcheck reports about records: each limit with its line and value, and each item that
+// is read differently from how it looks.
 #include "TestForm.h"
 #include "check/RecordCheck.h"
 #include "check/Wording.h"
@@ -17,9 +17,9 @@ std::string Findings(const std::string& bytes) {
 
 struct Row {
     Integer type;
-    std::string field;  // or "flow": the second of two
+    std::string field;  // or "flow" for the second of two flows
     Single value;
-    std::string found;  // its line and what is said
+    std::string found;  // the line, a bar and the message
 };
 
 // clang-format off
@@ -72,7 +72,7 @@ const std::string Good =
     "\n\"Record Phase: \",2\n12,3,1,-8\n1,0,0,0\n0,0,2,0\n0,0,0,0,0\n6,6,20,6,6,7\n0,0,-1,1.5\n"
     "300\n1150\n";
 
-// A change of the good record, and the findings that it makes.
+// A change to the good record, and the findings that it causes.
 struct Change {
     std::string from;
     std::string to;
@@ -199,7 +199,7 @@ const Change Changes[] = {
 };
 // clang-format on
 
-// A record of that phase, with two flows if the type has any, and one that passes after it.
+// A record of this phase, with two flows if its type has any, and then a phase that passes.
 std::string Written(const PhaseRecord& phase, Single secondFlow) {
     static EditorState record;
     record.RecordScale = ScaleCode::Normal;
@@ -213,7 +213,7 @@ std::string Written(const PhaseRecord& phase, Single secondFlow) {
     return text.str();
 }
 
-// Replaces one number of a phase, unless it is that of a flow.
+// Replaces the named number of a phase; does nothing for "flow".
 void Put(const std::string& name, Single value, PhaseRecord& phase) {
     for (const PhaseField& field : PhaseFields) {
         if (field.name == name) {
@@ -247,7 +247,7 @@ std::string Invalid(const std::string& findings) {
     return invalid;
 }
 
-TEST(CheckTest, EveryCheckIsReachedWithItsLineAndValueAndTheLastValueThatPassesDoes) {
+TEST(CheckTest, EachLimitIsReportedWithItsLineAndValueAndAValueAtTheLimitPasses) {
     for (const Row& row : Rows) {
         const std::string type(EntryOf(GoodPhase(row.type))->name);
         const std::size_t bar = row.found.find('|');
@@ -261,7 +261,7 @@ TEST(CheckTest, EveryCheckIsReachedWithItsLineAndValueAndTheLastValueThatPassesD
     }
 }
 
-TEST(CheckTest, ListsWhatIsReadOtherwiseThanItLooksWhereItIs) {
+TEST(CheckTest, ListsEachFindingWithItsLineForEveryKindOfLineEnd) {
     EXPECT_EQ(Findings(Good), "");
     for (const std::string end : {"\n", "\r\n", "\r"}) {
         for (const Change& change : Changes) {
@@ -275,7 +275,7 @@ TEST(CheckTest, ListsWhatIsReadOtherwiseThanItLooksWhereItIs) {
     }
 }
 
-TEST(CheckTest, OfTwoFaultsThatOneIsSaidWhoseCheckIsFirst) {
+TEST(CheckTest, OfTwoFaultsTheOneCheckedFirstIsReported) {
     for (const Row& first : Rows) {
         for (const Row& second : Rows) {
             if (&first < &second && first.type == second.type && first.field != second.field &&
@@ -293,7 +293,7 @@ TEST(CheckTest, OfTwoFaultsThatOneIsSaidWhoseCheckIsFirst) {
     }
 }
 
-TEST(CheckTest, CharactersWithoutALookOfTheirOwnAreEscaped) {
+TEST(CheckTest, InvisibleCharactersAreEscaped) {
     const std::string seen =
         "~\u00A0\u00AC\u00AE\u061B\u061D\u200A\u2010\u2027\u202F\u205F\u2070\uFEFE\uFF00\U000DFFFF"
         "\U000E0080";

@@ -15,21 +15,21 @@ give_up() {
     exit 1
 }
 
-# Each kind of file is whole, says nothing, and comes out the same again.
+# Each format is written without a message, and is the same the second time.
 for kind in svg png pdf; do
     for run in 1 2; do
         "$draw" "$record" -o "$run.$kind" >said 2>&1 || give_up "$kind: status $?"
-        [ ! -s said ] || give_up "$kind says $(cat said)"
+        [ ! -s said ] || give_up "$kind prints $(cat said)"
         grep -av -e CreationDate -e CreateDate -e ModifyDate -e MetadataDate -e ID -e uuid "$run.$kind" >"$run"
     done
-    cmp 1 2 || give_up "another $kind"
+    cmp 1 2 || give_up "the second $kind differs"
 done
-"$draw" "$record" | cmp - 1.svg || give_up "standard output has another picture"
+"$draw" "$record" | cmp - 1.svg || give_up "the picture on standard output differs"
 tr -d '\0' <1.pdf >plain
 grep -aq "TephrexDemo.rec)$" plain && grep -aq "tephrexdraw)$" plain ||
-    give_up "a PDF does not say what it is"
+    give_up "the PDF lacks its title or creator"
 "$draw" "$record" -o pages.pdf --width 120
-grep -aq "MediaBox \[0 0 340.* 481" pages.pdf && grep -aq "/Count 2$" pages.pdf || give_up "no pages"
+grep -aq "MediaBox \[0 0 340.* 481" pages.pdf && grep -aq "/Count 2$" pages.pdf || give_up "the PDF does not have two pages of the right size"
 case $(head -c 24 1.png | od -An -tx1 | tr -d ' \n') in
     *0000058a0000*) ;;
     *) give_up "a PNG of 180 mm at 200 dpi is 1418 pixels wide" ;;
@@ -39,12 +39,12 @@ esac
 # many invalid values and the ends of the map. scripts/pictures.sh makes them again.
 [ -e /usr/share/fonts/truetype/dejavu/DejaVuSans.ttf ] || give_up "needs fonts-dejavu-core"
 export FONTCONFIG_FILE=$project/tests/draw/fonts.conf
-"$draw" "$record" | diff "$project/docs/history.svg" - || give_up "the README has another drawing"
+"$draw" "$record" | diff "$project/docs/history.svg" - || give_up "the drawing in the README differs"
 "$draw" "$project/tests/draw/every.rec" | diff "$project/tests/draw/every.svg" - ||
-    give_up "every.rec is drawn otherwise"
+    give_up "the drawing of every.rec differs"
 unset FONTCONFIG_FILE
 
-# refused LINE ARGUMENT...: status 2, that one line, and nothing new in the folder.
+# refused LINE ARGUMENT...: expects status 2, that one line of output, and no new file in the folder.
 refused() {
     local line=$1 status=0
     shift
@@ -66,7 +66,7 @@ refused "cut.rec:[0-9]*: error: the file ends" cut.rec -o new.svg
 refused "none.rec.*error: No such file" none.rec -o new.svg
 refused "missing/new.svg" "$record" -o missing/new.svg
 refused "the picture has more pixels than can be painted; try a smaller --dpi" "$record" -o old.png --dpi 2400 --width 1000
-[ "$(cat old.png)" = old ] || give_up "a picture that failed has replaced a file"
+[ "$(cat old.png)" = old ] || give_up "a failed picture has replaced a file"
 refused "folder.svg: " "$record" -o folder.svg
 refused "the name of the picture must end in .svg, .png or .pdf$" "$record" -o new.gif
 refused "is not UTF-8" "$record" -o $'\xE9.svg'

@@ -1,5 +1,5 @@
-// Notes on one block of a record, the header or a phase: the lines of its items, and items that are
-// read differently from how they look. What the values mean is checked in RecordCheck.
+// Notes on one block of a record (the header or a phase): the lines of its items, and items that
+// are read differently from how they look. RecordCheck checks what the values mean.
 #pragma once
 
 #include <array>
@@ -10,19 +10,20 @@
 
 class BlockNotes {
 public:
-    /// Sets the line, from 1, of an item, counted as in ItemPlace.
+    /// The line of an item, from 1; items are numbered as in ItemPlace.
     void SetLine(int item, std::int64_t line) { lines[static_cast<std::size_t>(item)] = line; }
     std::int64_t LineOf(int item) const { return lines[static_cast<std::size_t>(item)]; }
 
-    /// Notes a label, or text in the empty line of a phase, that differs from the writer's, except
-    /// for outer blanks. That note replaces all others on the block. An item that is no label is
-    /// ignored.
+    /// Notes a label, or text in the empty line of a phase, that differs from what the writer puts
+    /// there; outer blanks are ignored, and so are header items that are not labels. This note
+    /// replaces all others on the block.
     void CompareLabel(const ItemPlace& place, std::string_view text);
 
-    /// Notes a phase number that is not the place of the phase in the file.
+    /// Notes a phase number that differs from the position of the phase in the file.
     void ComparePhaseNumber(const ItemPlace& place, std::string_view text);
 
-    /// Notes an item, read as `value`, that is not a number, or not a whole one if `isWhole`.
+    /// Notes an item that is not a number or, if `isWhole`, not a whole number. `value` is what was
+    /// read from it.
     void CompareNumber(const ItemPlace& place, std::string_view text, double value, bool isWhole);
 
     /// Notes that text after the closing quote of an item was dropped.

@@ -1,4 +1,4 @@
-// The bytes of a file without a buffer, for a reader that has its own.
+// An unbuffered file stream, for a reader that has its own buffer.
 #pragma once
 
 #include <streambuf>

@@ -1,5 +1,5 @@
-// A fault found in a record, and the verdict on the record. How findings are worded is in Wording
-// and JsonReport.
+// A problem found in a record, and the verdict on the record. Wording and JsonReport word the
+// findings.
 #pragma once
 
 #include <cstdint>
@@ -21,12 +21,12 @@ struct Finding {
     std::int64_t line = 0;       // 0 where there is none
     ItemPlace place = {};        // the item at fault
     std::string_view type = {};  // the name of the eruption type of an invalid phase
-    std::string field = {};      // the name of the item, or of all expected in its line
+    std::string field = {};      // the name of the item, or of all items expected on its line
     std::string message = {};    // for the user
     std::string value = {};      // of the field, as in a record; text is quoted
     Bounds passing = {};         // the values that would pass
     int phaseCount = 0;          // for an error in a phase: how many phases the record says it has
-    bool showsLimit = false;     // whether the limit is shown, as the message does not name it
+    bool showsLimit = false;     // text adds the limit, which the message does not name
 };
 
 /// Receives the findings of a record in the order in which they are listed.

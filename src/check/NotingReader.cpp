@@ -31,7 +31,7 @@ void NotingReader::CompareNumber(double value, bool isWhole) {
     notes.CompareNumber(place, in.Item(), value, isWhole);
 }
 
-// Whether text was dropped after a closing quote is known once the next item has been read.
+// Whether text was dropped after a closing quote is known only once the next item has been read.
 void NotingReader::NoteDropped() {
     if (std::exchange(afterQuote, false) && in.Dropped()) {
         notes.NoteDropped(quoted);

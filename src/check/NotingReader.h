@@ -1,5 +1,5 @@
-// A reader for ReadRecordWith that takes notes on the items it reads. What is noted is in
-// BlockNotes.
+// A reader for ReadRecordWith that takes notes on the items it reads. BlockNotes decides what is
+// noted.
 #pragma once
 
 #include <functional>
@@ -45,6 +45,6 @@ private:
 
     ItemReader in;
     std::function<void(int block)> endOfBlock;
-    bool afterQuote = false;  // text after the quoted item is not checked yet
-    ItemPlace quoted;         // the place of that item
+    bool afterQuote = false;  // the last item was quoted; text after it is not checked yet
+    ItemPlace quoted;         // the place of the last item
 };

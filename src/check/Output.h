@@ -23,7 +23,7 @@ public:
     void Write(std::string_view text);
     bool Failed() const { return failure != 0; }
 
-    /// Why a write failed, for the user; empty if the other end of a pipe is closed.
+    /// Once Failed(): why, for the user; empty if the other end of a pipe is closed.
     std::string Failure() const;
 
     /// Shows how many records are done, at most five times a second.
@@ -35,8 +35,8 @@ private:
     void ClearProgress();
 
     bool showsProgress;
-    bool onTerminal;       // standard output
+    bool onTerminal;       // whether standard output is a terminal
     bool isShown = false;  // the progress line
     int failure = 0;
-    Clock::time_point next;  // of the progress line
+    Clock::time_point next;  // when the progress line may change again
 };

@@ -9,45 +9,47 @@ namespace {
 
 using P = PhaseRecord;
 
-// A field that holds a code or a flag, when its value means nothing, and the warning about it.
+// A field that holds a code or a flag, when its value has no meaning, and the warning about it.
 struct Code {
     const PhaseField& field;
     bool (*isUnknown)(const PhaseRecord& phase);
-    std::string_view message;  // what follows the value
+    std::string_view message;  // the text after the value
 };
 
 template <auto Flag>
-bool IsNoFlag(const P& phase) {
+bool IsUnknownFlag(const P& phase) {
     return phase.*Flag != 0 && phase.*Flag != 1;
 }
 
 bool IsNotChosen(const P& phase) { return phase.eruptionType == EruptionType::None; }
-bool IsNoType(const P& phase) { return !IsNotChosen(phase) && !IsEruptionType(phase.eruptionType); }
-bool IsNoStyle(const P& phase) {
+bool IsUnknownType(const P& phase) {
+    return !IsNotChosen(phase) && !IsEruptionType(phase.eruptionType);
+}
+bool IsUnknownStyle(const P& phase) {
     return phase.calderaStyle != 0 && StyleEntry(phase.calderaStyle, "").empty();
 }
-bool IsNoSide(const P& phase) {
+bool IsUnknownSide(const P& phase) {
     return phase.faultDownSide != 0 && SideEntry(phase.faultDownSide, "").empty();
 }
 
 // Only tectonic phases need a kind.
-bool IsNoKind(const P& phase) {
+bool IsUnknownKind(const P& phase) {
     const bool mayBeZero = phase.eruptionType != EruptionType::Tectonic;
     return phase.tectonicKind != TectonicKind::Faulting &&
            phase.tectonicKind != TectonicKind::Erosion && !(phase.tectonicKind == 0 && mayBeZero);
 }
 
-constexpr std::string_view NoFlag = " is neither 0 nor 1";
+constexpr std::string_view NotAFlag = " is neither 0 nor 1";
 
 constexpr std::array<Code, 8> Codes{{
     {FieldOf(&P::eruptionType), IsNotChosen, " means that no eruption type is chosen"},
-    {FieldOf(&P::eruptionType), IsNoType, " is no eruption type"},
-    {FieldOf(&P::calderaFlag), IsNoFlag<&P::calderaFlag>, NoFlag},
-    {FieldOf(&P::directedFlag), IsNoFlag<&P::directedFlag>, NoFlag},
-    {FieldOf(&P::calderaStyle), IsNoStyle, " is no caldera style"},
-    {FieldOf(&P::burstFlag), IsNoFlag<&P::burstFlag>, NoFlag},
-    {FieldOf(&P::tectonicKind), IsNoKind, " is neither Faulting nor Erosion"},
-    {FieldOf(&P::faultDownSide), IsNoSide, " is no down side"},
+    {FieldOf(&P::eruptionType), IsUnknownType, " is no eruption type"},
+    {FieldOf(&P::calderaFlag), IsUnknownFlag<&P::calderaFlag>, NotAFlag},
+    {FieldOf(&P::directedFlag), IsUnknownFlag<&P::directedFlag>, NotAFlag},
+    {FieldOf(&P::calderaStyle), IsUnknownStyle, " is no caldera style"},
+    {FieldOf(&P::burstFlag), IsUnknownFlag<&P::burstFlag>, NotAFlag},
+    {FieldOf(&P::tectonicKind), IsUnknownKind, " is neither Faulting nor Erosion"},
+    {FieldOf(&P::faultDownSide), IsUnknownSide, " is no down side"},
 }};
 
 bool BoxKeeps(const FieldRange& range, Single value) {

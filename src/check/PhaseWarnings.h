@@ -1,5 +1,5 @@
-// Warnings about numbers of a phase that mean nothing or that the form would change. Limits that
-// Save checks are in Limits.
+// Warnings about numbers of a phase that mean nothing or that the form would change. The limits
+// that Save checks are in Limits.
 #pragma once
 
 #include <functional>

@@ -57,12 +57,12 @@ void RecordCheck::Run(std::streambuf& source, const FindingSink& sink) {
     }
     const ItemPlace& place = result.failure->place;
     if (place.phase > 0 && place.item == ItemPlace::EmptyLine) {
-        reader.EndBlock(place.phase - 1);  // it is complete, but the next has no first item
+        reader.EndBlock(place.phase - 1);  // complete; the next one has no first item
     }
     sink(ErrorOf(*result.failure, PhaseCount()));
 }
 
-// A device that fails after the last item is only a warning: the form never reads that far.
+// A device failure after the last item is only a warning: the form never reads that far.
 void RecordCheck::End(NotingReader& reader, const FindingSink& sink) {
     Finding rest{.message = "text after the last item is not read"};
     try {

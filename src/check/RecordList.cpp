@@ -15,7 +15,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-bool EndsAsRecord(const std::string& name) {
+bool HasRecordExtension(const std::string& name) {
     constexpr std::string_view ending = ".rec";
     return name.size() >= ending.size() &&
            std::equal(ending.begin(), ending.end(), name.end() - ending.size(), [](char a, char b) {
@@ -67,7 +67,7 @@ private:
         const bool isLink = entry.is_symlink(error);
         if (!isLink && entry.is_directory(error)) {
             folders.push_back(name);
-        } else if (EndsAsRecord(name)) {
+        } else if (HasRecordExtension(name)) {
             const fs::file_status status = entry.status(error);
             if (!fs::is_directory(status)) {
                 found.push_back(File(name, status, error));

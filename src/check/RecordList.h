@@ -17,8 +17,8 @@ constexpr const char* StandardInput = "-";
 
 /// Lists the records of each name in turn. For a folder these are all files below it that end in
 /// .rec, in any case, sorted by the bytes of their paths; links to folders are not followed. A file
-/// that is not regular, a folder that cannot be read and one without records are listed with the
-/// problem.
+/// that is missing or not regular, a folder that cannot be read and one without records are listed
+/// with the problem.
 std::vector<RecordName> ListRecords(const std::vector<std::string>& names);
 
 /// Opens a record that was listed without a problem. Throws std::system_error on failure.

@@ -1,5 +1,5 @@
-// The report on a record, as text or as JSON, which grows while the record is checked. How a
-// finding is worded is in Wording and JsonReport.
+// The report on a record, as text or as JSON, which grows while the record is checked. Wording and
+// JsonReport word the findings.
 #pragma once
 
 #include <string>

@@ -28,8 +28,8 @@ std::string Escape(char c) {
     return code.data();
 }
 
-// Ranges, first and last, of invisible characters: controls, direction marks, zero-width characters
-// and tags.
+// The first and last of each range of invisible characters: controls, direction marks, zero-width
+// characters and tags.
 constexpr std::array<std::array<std::string_view, 2>, 8> Invisible{{
     {"\xC2\x80", "\xC2\x9F"},
     {"\xC2\xAD", "\xC2\xAD"},
@@ -71,7 +71,7 @@ std::string_view TakeCharacter(std::string_view& text) {
     return character;
 }
 
-// One unit in the last digit that a record keeps of the numbers just below this one.
+// One unit in the last digit that a record keeps, for numbers just below `number`.
 double LastDigit(double number) {
     const double below = std::nextafter(number, -std::numeric_limits<double>::infinity());
     return std::pow(10, std::floor(std::log10(std::abs(below))) + 1 - SignificantDigits);

@@ -7,7 +7,7 @@
 #include "check/Finding.h"
 #include "record/RecordFile.h"
 
-/// Text from a file in double quotes. Quotes, backslashes, invisible characters and bytes that are
+/// Text from a file, in double quotes. Quotes, backslashes, invisible characters and bytes that are
 /// not UTF-8 are escaped; text of more than 40 characters is cut.
 std::string Quoted(std::string_view text);
 
@@ -22,10 +22,10 @@ std::string ValueText(Single value);
 std::string HighestText(Single highest);
 std::string LowestText(Single lowest);
 
-/// The error of a record that could not be read. `phaseCount` is how many phases it says it has.
+/// The finding for a record that could not be read. `phaseCount` is how many phases it says it has.
 Finding ErrorOf(const ReadFailure& failure, int phaseCount);
 
-/// The line of a finding, with its line end; `coloured` adds control sequences of a terminal.
+/// The line of a finding, with its line end; `coloured` colours the level for a terminal.
 std::string TextLine(std::string_view name, const Finding& finding, bool coloured = false);
 
 /// The line for a record that could not be read, without a line end.

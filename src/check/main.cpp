@@ -1,4 +1,4 @@
-// tephrexcheck: the command line. The checks are in CheckRun and below.
+// The command line of tephrexcheck. CheckRun does the work.
 
 #include <unistd.h>
 
@@ -68,7 +68,7 @@ bool MayColour() {
 }
 
 int Run(const Options& options) {
-    std::signal(SIGPIPE, SIG_IGN);  // a closed pipe is a write that fails
+    std::signal(SIGPIPE, SIG_IGN);  // a write to a closed pipe must not end the program
     const ReportOptions reportOptions{options.json, options.quiet, options.strict,
                                       !options.json && MayColour()};
     Output output(!options.quiet);

@@ -24,7 +24,8 @@ double NiceStep(double least) {
     return 10 * power;
 }
 
-// Both ends of the map, and round numbers between them where there is room for their labels.
+// The ends of the map (only the first if they are too close), and round numbers between them where
+// there is room for their labels.
 std::vector<Tick> TicksOf(const Columns& columns, Lettering& lettering) {
     const auto tickAt = [&columns](double location) {
         return Tick{columns.PlaceOf(location), Label(location)};
@@ -109,6 +110,6 @@ Group AxesOf(double top, double bottom, const Columns& columns, const Contents& 
     head(contents.flux, {"Mass", "flux"}, columns.fluxEnd, Anchor::Right);
     head(contents.bursts, {"Bursts,", "flows"}, columns.burstsEnd, Anchor::Right);
     head(contents.flows > 0, {"Flow", "durations"}, columns.flowsStart, Anchor::Left);
-    head(contents.refused, {"Cannot", "be saved"}, columns.faultsStart, Anchor::Left);
+    head(contents.refused, {"Cannot", "be saved"}, columns.refusalsStart, Anchor::Left);
     return group;
 }

@@ -55,8 +55,8 @@ void SetRightColumns(const EditorState& record, const Contents& contents, Letter
         end -= used ? room + gap : 0;
         return taken;
     };
-    columns.faultsWidth = std::min(30.0, columns.width / 5);
-    columns.faultsStart = take(contents.refused, columns.faultsWidth) - columns.faultsWidth;
+    columns.refusalsWidth = std::min(30.0, columns.width / 5);
+    columns.refusalsStart = take(contents.refused, columns.refusalsWidth) - columns.refusalsWidth;
     columns.flowsWidth =
         std::clamp(Sheet::WidestBar * contents.flows, lettering.Width("durations", Sheet::Quiet),
                    std::min(26.0, columns.width / 7));

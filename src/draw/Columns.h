@@ -1,5 +1,5 @@
-// The columns of a picture, left to right: number and type, the map, numbers and flows, faults.
-// Their widths, and where a location is on the page. What is drawn in them is in Axis and Rows.
+// The columns of a picture, left to right: phase, map, mass flux, bursts, flows and refusals. Their
+// widths, and where a location is on the page. Axis and Rows draw in them.
 #pragma once
 
 #include "draw/Lettering.h"
@@ -21,22 +21,22 @@ constexpr double WidestBar = 1.6;  // of a flow, with its gap
 struct Contents {
     bool flux = false;
     bool bursts = false;
-    int flows = 0;  // the largest number in a phase
+    int flows = 0;  // the largest number of flows in a phase
     bool refused = false;
 };
 
 struct Columns {
     double width;      // of the page
-    double numberEnd;  // numbers end here
+    double numberEnd;  // phase numbers end here
     double nameStart;  // types begin here
     double mapStart;   // where map position 50 is
-    double mapEnd;     // and 1230
+    double mapEnd;     // where map position 1230 is
     double fluxEnd;    // mass fluxes end here
     double burstsEnd;  // numbers of bursts end here
     double flowsStart;
     double flowsWidth;
-    double faultsStart;
-    double faultsWidth;
+    double refusalsStart;
+    double refusalsWidth;
     Integer scale;  // of the record, not 0
 
     double End() const { return width - Sheet::Margin; }
@@ -51,11 +51,11 @@ constexpr Integer ScaleOf(const EditorState& record) {
     return record.RecordScale == ScaleCode::NotSet ? ScaleCode::Normal : record.RecordScale;
 }
 
-/// The name of the type of a phase, one word a line; also if there is no type or an unknown one.
+/// The name of a phase's type in short lines; "No type" or "Unknown type n" if it has no name.
 QStringList TypeName(const PhaseRecord& phase);
 
-/// All but `refused`, which depends on the limits.
+/// The columns that the phases need; `refused`, which depends on the limits, is not set.
 Contents ContentsOf(const EditorState& record);
-/// The columns of a page of that width, as wide as the texts of the record need.
+/// Columns as wide as the record's texts need; the map takes the rest of the page's width.
 Columns ColumnsOf(const EditorState& record, const Contents& contents, double width,
                   Lettering& lettering);

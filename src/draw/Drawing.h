@@ -12,7 +12,7 @@
 
 /// What a shape shows.
 enum class Mark {
-    Frame,  // axes and rules
+    Frame,  // axes, rules and backgrounds
     Symbol,
     OffMap,
     Wind,
@@ -30,9 +30,9 @@ enum class Mark {
 };
 
 struct Style {
-    QRgb line = 0;  // transparent for none
-    double width = 0;
-    QRgb fill = 0;  // transparent for none
+    QRgb line = 0;
+    double width = 0;  // of the line; 0 for none
+    QRgb fill = 0;     // transparent for none
 };
 
 struct Shape {
@@ -49,7 +49,7 @@ struct Text {
     Anchor anchor;
     double size;  // of the font
     QRgb colour;
-    QRectF room;  // the area that the text covers
+    QRectF room;  // the area that the text covers, as measured
 };
 
 /// Shapes and texts that belong together: a phase, or the head, axes or legend of a page.

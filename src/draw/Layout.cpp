@@ -55,8 +55,8 @@ void Place(Group group, double top, Page& page) {
     page.groups.push_back(std::move(group));
 }
 
-// Adds the rows from `first` to before `end`, counted from 0, from the bottom up, and the axes
-// around them. Returns the lower edge of the axes.
+// Adds the rows from `first` up to but not including `end`, counted from 0, from the bottom up, and
+// the axes around them. Returns the lower edge of the axes.
 double AddRows(Parts& parts, int first, int end, double top, Page& page) {
     const double rowsTop = top + Sheet::AxisHead;
     const double bottom = rowsTop + std::max(1, end - first) * Sheet::RowHeight;
@@ -101,8 +101,8 @@ Drawing DrawRecord(const EditorState& record, std::string_view name, SheetSize s
 
     Drawing drawing{parts.name,
                     SummaryOf(record) + ReferenceOf(record) +
-                        ". Each row is a phase, the first at the bottom; from left to right is "
-                        "the location on the map.",
+                        ". Each row is a phase, the first at the bottom; the location on the map "
+                        "runs from left to right.",
                     {}};
     for (int number = 1, first = 0; number <= pages; ++number) {
         drawing.pages.push_back(MakePage(parts, {number, pages}, first, capacity));

@@ -1,5 +1,5 @@
 // Draws a record: head, axes, a row for each phase from the bottom up, and legend, divided into
-// pages. What is in these parts is in Head, Axis, Rows and Legend.
+// pages. Head, Axis, Rows and Legend draw these parts.
 #pragma once
 
 #include <string_view>
@@ -7,7 +7,7 @@
 #include "draw/Drawing.h"
 #include "record/EditorState.h"
 
-/// The narrowest sheet on which the texts of every record have room, in millimetres.
+/// The narrowest sheet on which the texts of every record fit, in millimetres.
 constexpr double NarrowestSheet = 120;
 
 struct SheetSize {
@@ -15,6 +15,6 @@ struct SheetSize {
     double tallest;  // the maximum height of a page; huge if there may be only one
 };
 
-/// Draws the loaded copy. `name` is the file's, as bytes in any encoding. A page is taller than
-/// `sheet.tallest` if that has no room for two rows.
+/// Draws the phases as loaded. `name` is the file's, as bytes in any encoding. If there are several
+/// pages, each is `sheet.tallest` high, or higher if that has no room for two rows.
 Drawing DrawRecord(const EditorState& record, std::string_view name, SheetSize sheet);

@@ -6,7 +6,7 @@
 
 namespace {
 
-bool NeedsStandIn(QChar character) {
+bool IsReplaced(QChar character) {
     const char16_t code = character.unicode();
     return character.category() == QChar::Other_Control || (code >= 0x2028 && code <= 0x202E) ||
            (code >= 0x2066 && code <= 0x2069) || code >= 0xFFFE;
@@ -89,7 +89,7 @@ QStringList Lettering::Wrapped(const QString& text, double width, const TextStyl
 
 QString Readable(std::string_view bytes) {
     QString text = Decoded(bytes);
-    std::replace_if(text.begin(), text.end(), NeedsStandIn, QChar(QChar::ReplacementCharacter));
+    std::replace_if(text.begin(), text.end(), IsReplaced, QChar(QChar::ReplacementCharacter));
     return text;
 }
 

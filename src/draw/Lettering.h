@@ -1,5 +1,5 @@
-// Measures and places texts. There is only one font, as each further one takes time to load. Texts
-// are measured at one size and scaled, so that a picture is the same at each resolution.
+// Measures and places texts. There is only one font, because loading another takes time. Texts are
+// measured at one size and scaled, so that a picture is the same at every resolution.
 #pragma once
 
 #include <QFont>
@@ -12,7 +12,7 @@
 /// How much wider a text may be where it is shown than where it was measured.
 constexpr double RoomForOtherFonts = 1.1;
 
-/// The families of the font, in the order of preference, as in a style sheet.
+/// The families of the font, in order of preference, as in a style sheet.
 constexpr const char* FontFamilies = "Helvetica, Arial, sans-serif";
 
 /// The font in which texts are measured and, scaled by size / MeasuredSize, painted.
@@ -28,7 +28,7 @@ struct TextStyle {
 /// Measures and places texts. Needs a QGuiApplication.
 class Lettering {
 public:
-    /// The width, with room for other fonts.
+    /// The width in millimetres, with room for other fonts.
     double Width(const QString& text, const TextStyle& style);
 
     /// A text with its anchor at a point on the baseline.
@@ -42,7 +42,7 @@ public:
     QStringList Wrapped(const QString& text, double width, const TextStyle& style);
 
 private:
-    struct TextExtent {
+    struct TextExtent {  // at MeasuredSize
         double advance;
         QRectF bounds;
     };
@@ -55,7 +55,8 @@ private:
 };
 
 /// The bytes of a name as text for one line: UTF-8, or Windows-1252 if they are not UTF-8 as a
-/// whole, with U+FFFD for each control character, line end and direction mark.
+/// whole. Control characters, line separators, characters that override the direction and those
+/// that XML does not allow become U+FFFD.
 QString Readable(std::string_view bytes);
 
 /// A number as a label of up to five digits, with a true minus sign; `showsPlus` also shows a plus.

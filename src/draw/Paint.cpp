@@ -52,7 +52,7 @@ void Paint(const Page& page, double dotsPerInch, QPainter& painter) {
 // The size of a page in pixels. The painter paints nothing beyond `longest`.
 QSize PixelsOf(const Page& page, double dotsPerInch) {
     constexpr double longest = 32767;
-    constexpr double most = 1 << 28;  // a gigabyte
+    constexpr double most = 1 << 28;  // pixels: a gigabyte
     const double width = std::ceil(page.size.width() * dotsPerInch / MillimetresPerInch);
     const double height = std::ceil(page.size.height() * dotsPerInch / MillimetresPerInch);
     if (std::max(width, height) > longest || width * height > most) {

@@ -11,8 +11,8 @@ struct PaintError : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-/// The first page as PNG. Throws PaintError if it has more pixels than can be painted.
+/// The first page as PNG. Throws PaintError if it is too large or cannot be converted.
 QByteArray PngOf(const Drawing& drawing, double dotsPerInch);
 
-/// All pages as PDF.
+/// All pages as PDF, each the size of the first.
 QByteArray PdfOf(const Drawing& drawing);

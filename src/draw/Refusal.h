@@ -11,5 +11,5 @@ struct Refusal {
     int faults = 0;
 };
 
-/// The scale is not 0, and the phase has at most 100 flows.
+/// The scale must not be 0, and the phase may have at most 100 flows.
 Refusal RefusalOf(const PhaseRecord& phase, const FlowRow& flows, Integer scale);

@@ -34,7 +34,7 @@ struct Row {
                const TextStyle& style = Sheet::Plain) const {
         group.texts.push_back(lettering.Put(text, {x, y}, anchor, style));
     }
-    // The baseline of the first of so many lines, which are centred in the row.
+    // The baseline of the first of `lines` lines that are centred in the row.
     double FirstLine(qsizetype lines) const {
         return top + Sheet::RowHeight / 2 + 0.85 -
                static_cast<double>(lines - 1) * Sheet::LineHeight / 2;
@@ -81,8 +81,7 @@ void AddGround(const Row& row) {
     row.Add(Lined(Mark::Frame, ground, Palette::Rule, 0.2));
 }
 
-// A vent has a caldera or a diatreme below it; between the strengths for the two it is a caldera
-// without a style.
+// Draws a caldera or a diatreme below the vent; a caldera too weak for a style has none.
 void AddStructure(const Row& row) {
     const PhaseRecord& phase = row.phase;
     if (!Uses<&P::calderaFlag>(row) || phase.calderaFlag != 1) {
@@ -139,7 +138,7 @@ void AddWind(const Row& row) {
 
 void AddFault(const Row& row) {
     constexpr double reach = 2.6;        // of the line, above and below the ground
-    constexpr double degreesForOne = 6;  // of dip
+    constexpr double degreesForOne = 6;  // unit of dip
     constexpr double longestThrow = 5;   // of the largest magnitude
     const double dip = std::clamp<int>(row.phase.faultDip, -10, 10) * degreesForOne;
     const double slope = std::tan(qDegreesToRadians(dip));  // sideways for each unit downwards
@@ -185,7 +184,7 @@ void AddErosion(const Row& row) {
 
 // The height of a flow's bar; 0 if its ceiling cannot be computed.
 double BarHeight(const Row& row, int flow) {
-    constexpr double highest = 1.15;  // times the ceiling, for any longer duration
+    constexpr double highest = 1.15;  // share of the ceiling; longer durations look the same
     try {
         const double ceiling = LongestFlow(row.phase, flow);
         const double duration = std::max(0.0, static_cast<double>(row.flows[flow]));
@@ -240,13 +239,13 @@ void AddNumber(const Row& row, double end) {
 
 void AddRefusal(const Row& row, const Refusal& refusal) {
     constexpr double mark = 4;
-    const double x = row.columns.faultsStart;
+    const double x = row.columns.refusalsStart;
     row.Add(RefusedMark({x + 1.3, row.top + Sheet::RowHeight / 2}));
     QString text = refusal.message;
     if (refusal.faults > 1) {
         text += " +" + Label(refusal.faults - 1);
     }
-    WriteLines(row, row.lettering.Wrapped(text, row.columns.faultsWidth - mark, Sheet::Small),
+    WriteLines(row, row.lettering.Wrapped(text, row.columns.refusalsWidth - mark, Sheet::Small),
                x + mark, Sheet::Small);
 }
 

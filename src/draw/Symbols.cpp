@@ -9,7 +9,7 @@
 
 namespace {
 
-// Symbols are one unit high, upwards from their foot at 0, 0.
+// Symbols are about one unit high (the shield half of that), upwards from their foot at 0, 0.
 
 QPainterPath Shield() {
     QPainterPath path(QPointF(-0.76, 0));
@@ -103,7 +103,7 @@ void AddLine(QPainterPath& path, QPointF from, QPointF to) {
 
 double SymbolHeight(Single strength) {
     constexpr double smallest = 1.6;
-    constexpr double strongest = 2;  // that any type allows
+    constexpr double strongest = 2;  // the most that any type allows
     const double share = std::clamp(static_cast<double>(strength), 0.0, strongest) / strongest;
     return smallest + (LargestSymbol - smallest) * std::sqrt(share);
 }
@@ -125,7 +125,7 @@ QRgb ColourOf(Integer eruptionType) {
 Shape CalderaMark(QPointF foot, Integer calderaStyle) {
     QPainterPath path(QPointF(-3, 0));
     path.lineTo(-2.3, -1.5);
-    if (calderaStyle == CalderaStyle::Valles) {  // with a floor that has risen again
+    if (calderaStyle == CalderaStyle::Valles) {  // with a resurgent floor
         path.lineTo(-1.4, -1.5);
         path.quadTo(0, 0, 1.4, -1.5);
     } else if (calderaStyle != CalderaStyle::Mazama) {
@@ -175,7 +175,7 @@ Shape Arrow(Mark mark, QPointF from, double length, QRgb colour) {
 }
 
 Shape Wave(QPointF from, double length, int periods) {
-    constexpr double rise = 1.6;  // of the control points: twice the wave's own
+    constexpr double rise = 1.6;  // of the control points: twice that of the wave
     const double quarter = length / periods / 4;
     QPainterPath path(from);
     for (int half = 0; half < 2 * periods; ++half) {

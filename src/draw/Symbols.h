@@ -1,5 +1,5 @@
-// The symbols of the eruption types, their colours, and the other marks of a picture. Where they
-// are drawn, and for which phase, is in Rows and Legend.
+// The symbols of the eruption types, their colours, and the other marks of a picture. Rows and
+// Legend decide where and for which phase they are drawn.
 #pragma once
 
 #include <QPainterPath>
@@ -8,7 +8,7 @@
 #include "draw/Drawing.h"
 #include "record/PhaseRecord.h"
 
-/// The palette of Okabe and Ito, whose colours can be told apart by colour-blind readers too.
+/// The palette of Okabe and Ito, whose colours colour-blind readers can tell apart too.
 namespace Palette {
 constexpr QRgb Black = 0xFF000000;
 constexpr QRgb Orange = 0xFFE69F00;
@@ -28,18 +28,18 @@ constexpr QRgb Shade = 0xFFEDEDED;
 constexpr double LargestSymbol = 5;  // height
 constexpr double HalfSymbol = 3.8;   // half the width of the widest, at that height
 
-/// The height of the symbol of a strength, and of types without strength.
+/// The height of a symbol by strength (limited to 0 to 2), and for types without strength.
 double SymbolHeight(Single strength);
 constexpr double PlainSymbolHeight = 3.6;
 
-/// The symbol of a type, the middle of its lower edge at `foot`. Its path is empty for a type
-/// without a vent and for a code that is no type.
+/// The symbol of a type, with the middle of its lower edge at `foot`. Its path is empty for a type
+/// without a symbol and for a code that is not a type.
 Shape SymbolOf(Integer eruptionType, QPointF foot, double height);
 
-/// The colour of a type; black for a code that is no type.
+/// The colour of a type; black for a code that is not a type.
 QRgb ColourOf(Integer eruptionType);
 
-/// Below a vent at `foot`. A style that is not known is drawn with an open floor.
+/// Below a vent at `foot`. An unknown style is drawn with an open floor.
 Shape CalderaMark(QPointF foot, Integer calderaStyle);
 Shape DiatremeMark(QPointF foot);
 /// To the right with `side` 1, to the left with -1; as wide as BlastWidth.
@@ -47,9 +47,9 @@ Shape BlastMark(QPointF foot, int side);
 constexpr double BlastWidth = 4;
 /// Above a symbol of that height.
 Shape BurstMark(QPointF foot, double height);
-/// An arrow from a point sideways; a negative length points to the left.
+/// A horizontal arrow; with a negative length it points to the left.
 Shape Arrow(Mark mark, QPointF from, double length, QRgb colour);
-/// A wave of `periods` periods, to the right.
+/// A wave of `periods` periods, at least 1, to the right.
 Shape Wave(QPointF from, double length, int periods);
 /// The mark of a phase that Save would refuse.
 Shape RefusedMark(QPointF centre);

@@ -1,4 +1,4 @@
-// tephrexdraw: a record as one picture.
+// tephrexdraw: reads a record, draws it and writes the picture.
 
 #include <QBuffer>
 #include <QGuiApplication>
@@ -57,7 +57,7 @@ int Draw(const DrawOptions& options) {
 
 int main(int argc, char** argv) {
     try {
-        std::signal(SIGPIPE, SIG_IGN);  // a closed pipe is a write that fails
+        std::signal(SIGPIPE, SIG_IGN);  // a write to a closed pipe must not end the program
         // No display is used, whatever the environment says.
         qputenv("QT_QPA_PLATFORM", "offscreen");
         qunsetenv("QT_QPA_PLATFORMTHEME");

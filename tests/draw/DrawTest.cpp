@@ -65,7 +65,7 @@ Drawing Draw(const TestRecord& record) {
     return DrawRecord(*record.state, "test.rec", {180, AnyHeight});
 }
 
-// The place of a point along the map, as a map position.
+// The map position at `x` millimetres from the left edge of the page.
 double PositionOf(const Drawing& drawing, double x) {
     QRectF map;
     for (const Shape& shape : ShapesOf(drawing, 0, Mark::Frame)) {
@@ -77,7 +77,7 @@ double PositionOf(const Drawing& drawing, double x) {
     return 50 + (x - map.left()) / map.width() * 1180;
 }
 
-// Values that a file can bring, few of which may be saved.
+// A record of random values that a file can hold but Save would mostly refuse.
 TestRecord Wild(int phases) {
     std::mt19937 random(static_cast<unsigned>(phases));
     TestRecord record;
@@ -101,7 +101,7 @@ TestRecord Wild(int phases) {
     return record;
 }
 
-// Texts keep clear of each other and of the edges, with room for another font; shapes too.
+// No text, with room for another font, overlaps another; texts and shapes are inside the page.
 void ExpectInPlace(const Page& page) {
     const QRectF paper(QPointF(0, 0), page.size);
     std::vector<std::pair<QRectF, QString>> rooms;
@@ -149,7 +149,7 @@ void ExpectWhole(const Drawing& drawing, int phases) {
 
 }  // namespace
 
-TEST(DrawTest, NoTextOverlapsAnotherOrLeavesThePageHoweverMuchThereIs) {
+TEST(DrawTest, NoTextOverlapsAnotherOrLeavesThePage) {
     const std::string name(5000, 'W');
     std::string stacked = "e";
     for (int i = 0; i < 30; ++i) {
@@ -186,10 +186,10 @@ TEST(DrawTest, NoTextOverlapsAnotherOrLeavesThePageHoweverMuchThereIs) {
     }
 }
 
-TEST(DrawTest, APhaseIsDrawnByWhatItsTypeUses) {
+TEST(DrawTest, ARowShowsOnlyWhatTheTypeUses) {
     struct Row {
-        PhaseRecord phase;     // what is not 0 of it
-        std::set<Mark> marks;  // but for the frame
+        PhaseRecord phase;     // its fields other than 0 replace those of a good phase
+        std::set<Mark> marks;  // except the frame
     };
     using namespace EruptionType;
     using enum Mark;
@@ -236,7 +236,7 @@ TEST(DrawTest, APhaseIsDrawnByWhatItsTypeUses) {
     EXPECT_EQ(TypeName({.eruptionType = EruptionType::None}), QStringList("No type"));
 }
 
-TEST(DrawTest, SymbolsAreAtTheirLocationsAndHaveTheirSizes) {
+TEST(DrawTest, SymbolsAreAtTheirLocations) {
     struct Row {
         Integer scale;
         Single location;
@@ -260,16 +260,17 @@ TEST(DrawTest, SymbolsAreAtTheirLocationsAndHaveTheirSizes) {
     }
 }
 
-TEST(DrawTest, WhatNoPhaseHasTakesNoRoom) {
+TEST(DrawTest, UnusedColumnsTakeNoRoom) {
     Lettering lettering;
     const TestRecord record;
     const double whole = ColumnsOf(*record.state, {}, 180, lettering).mapEnd;
-    for (const Contents& had : {Contents{true}, Contents{false, true}, Contents{false, false, 1}}) {
-        EXPECT_LT(ColumnsOf(*record.state, had, 180, lettering).mapEnd, whole);
+    for (const Contents& used :
+         {Contents{true}, Contents{false, true}, Contents{false, false, 1}}) {
+        EXPECT_LT(ColumnsOf(*record.state, used, 180, lettering).mapEnd, whole);
     }
 }
 
-TEST(DrawTest, ARefusedPhaseHasTheFirstMessageOfSaveAndTheNumberOfTheOthers) {
+TEST(DrawTest, ARefusedPhaseShowsTheFirstMessageAndHowManyMoreThereAre) {
     TestRecord record;
     PhaseRecord& phase = record.Add(EruptionType::Hawaiian);
     phase.leftAngle = 5;
@@ -288,7 +289,7 @@ TEST(DrawTest, ARefusedPhaseHasTheFirstMessageOfSaveAndTheNumberOfTheOthers) {
     EXPECT_TRUE(texts[3].endsWith("5 ")) << texts[3].toStdString();
 }
 
-TEST(DrawTest, TheLegendHasWhatOccursAndNothingElse) {
+TEST(DrawTest, TheLegendListsOnlyWhatOccurs) {
     TestRecord record;
     record.Add(EruptionType::Tectonic);
     record.Add(EruptionType::Hawaiian);
@@ -301,7 +302,7 @@ TEST(DrawTest, TheLegendHasWhatOccursAndNothingElse) {
               "Hawaiian; Erosion; one wave per cycle; Flow durations against their ceilings");
 }
 
-TEST(DrawTest, ShapesAndTextsArePaintedWhereTheyAre) {
+TEST(DrawTest, ShapesAndTextsArePaintedAtTheirPlaces) {
     QPainterPath box;
     box.addRect(10, 5, 20, 2.5);
     QPainterPath line(QPointF(2, 2));
@@ -317,7 +318,7 @@ TEST(DrawTest, ShapesAndTextsArePaintedWhereTheyAre) {
     EXPECT_EQ(image.size(), QSize(700, 205));
     EXPECT_EQ(image.dotsPerMeterX(), 10000);
     EXPECT_EQ(image.dotsPerMeterY(), 10000);
-    // What the ink of a colour covers.
+    // The rectangle around all pixels of a colour.
     const auto ink = [&image](QRgb colour) {
         QRect found;
         for (int y = 0; y < image.height(); ++y) {
@@ -328,7 +329,7 @@ TEST(DrawTest, ShapesAndTextsArePaintedWhereTheyAre) {
         return found;
     };
     EXPECT_EQ(ink(0xFF0000FF), QRect(100, 50, 200, 25));
-    EXPECT_EQ(ink(0xFF123456), QRect(18, 20, 4, 60));  // and half of the pixels beside it
+    EXPECT_EQ(ink(0xFF123456), QRect(18, 20, 4, 60));  // half-covered pixels have another colour
     EXPECT_NEAR(ink(0xFF00FF00).center().x(), 500, 4);
     EXPECT_NEAR(ink(0xFF00FF00).bottom(), 120, 1);
     EXPECT_NEAR(ink(0xFF00FF00).height(), 36, 4);
@@ -372,7 +373,7 @@ TEST(DrawTest, PagesHoldAsManyRowsAsFit) {
     }
 }
 
-TEST(DrawTest, TheMapHasTheWidthThatIsLeft) {
+TEST(DrawTest, TheMapTakesTheRestOfTheWidth) {
     Lettering lettering;
     TestRecord record;
     record.Add(EruptionType::Plinian).massFlux = 123456;
@@ -387,9 +388,9 @@ TEST(DrawTest, TheMapHasTheWidthThatIsLeft) {
         EXPECT_NEAR(columns.nameStart, columns.numberEnd + 1.6, 1e-9);
         EXPECT_NEAR(columns.mapStart, columns.nameStart + width("Hawaiian", Sheet::Plain) + 4.4,
                     1e-9);
-        EXPECT_NEAR(columns.faultsStart, page - 4 - faults, 1e-9);
-        EXPECT_NEAR(columns.faultsWidth, faults, 1e-9);
-        EXPECT_NEAR(columns.flowsStart, columns.faultsStart - 2 - flows, 1e-9);
+        EXPECT_NEAR(columns.refusalsStart, page - 4 - faults, 1e-9);
+        EXPECT_NEAR(columns.refusalsWidth, faults, 1e-9);
+        EXPECT_NEAR(columns.flowsStart, columns.refusalsStart - 2 - flows, 1e-9);
         EXPECT_NEAR(columns.flowsWidth, flows, 1e-9);
         EXPECT_NEAR(columns.burstsEnd, columns.flowsStart - 2, 1e-9);
         EXPECT_NEAR(columns.fluxEnd, columns.burstsEnd - width("\u221232768", Sheet::Plain) - 2,
@@ -399,7 +400,7 @@ TEST(DrawTest, TheMapHasTheWidthThatIsLeft) {
     }
 }
 
-TEST(DrawTest, ANameIsOneReadableLineAndANumberAShortOne) {
+TEST(DrawTest, NamesAreOneReadableLineAndNumbersAreShort) {
     const std::pair<std::string, const char*> names[]{
         {"a\x1F\x7F z", "a?? z"},
         {"\u2027\u2028\u202E\u202F", "\u2027??\u202F"},
@@ -456,6 +457,6 @@ TEST(DrawTest, AnSvgIsWellFormedAndHasEachTextAsText) {
     EXPECT_EQ(titles.value(0), drawing.title);
     EXPECT_EQ(titles.value(1), drawing.description);
     EXPECT_TRUE(
-        drawing.description.endsWith(". Each row is a phase, the first at the bottom; from "
-                                     "left to right is the location on the map."));
+        drawing.description.endsWith(". Each row is a phase, the first at the bottom; the "
+                                     "location on the map runs from left to right."));
 }

@@ -1,4 +1,4 @@
-// Records to draw, and a look at what was drawn.
+// Makes records to draw, and finds shapes in what was drawn.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -9,19 +9,20 @@
 #include "draw/Layout.h"
 #include "draw/Lettering.h"
 
-/// A record of phases, with flows from 20 upwards in those that have them.
+/// A record without phases at first.
 struct TestRecord {
     std::unique_ptr<EditorState> state = std::make_unique<EditorState>();
 
     explicit TestRecord(Integer scale = ScaleCode::Normal) { state->RecordScale = scale; }
 
-    /// A phase of a type in the middle of the map that Save would take.
+    /// Adds a phase of this type in the middle of the map, with flow durations from 21 upwards.
+    /// Save would accept it.
     PhaseRecord& Add(Integer type);
 };
 
 constexpr double AnyHeight = 1e9;
 
-/// The shapes of a phase that are the drawing of this.
+/// The shapes with this mark in the row of a phase; for phase 0, in all that is not a row.
 std::vector<Shape> ShapesOf(const Drawing& drawing, int phase, Mark mark);
 
 /// What a text covers if the font is a tenth wider.
