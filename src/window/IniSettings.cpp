@@ -20,15 +20,15 @@ bool ReadLines(QIODevice& file, QSettings::SettingsMap& values) {
         if (bare.startsWith('[') && bare.endsWith(']')) {
             group = QString::fromUtf8(bare.mid(1, bare.size() - 2)) + '/';
         } else if (equals > 0 && !bare.startsWith(';') && !bare.startsWith('#')) {
-            values[group + QString::fromUtf8(line.left(equals).trimmed())] = line.mid(equals + 1);
+            const QString key = group + QString::fromUtf8(line.left(equals).trimmed());
+            values[key.toLower()] = line.mid(equals + 1);
         }
     }
     return true;
 }
 
 QSettings::Format RawIni() {
-    static const QSettings::Format format =
-        QSettings::registerFormat("ini", ReadLines, nullptr, Qt::CaseInsensitive);
+    static const QSettings::Format format = QSettings::registerFormat("ini", ReadLines, nullptr);
     return format;
 }
 
@@ -37,12 +37,13 @@ QSettings::Format RawIni() {
 std::string IniSettings::Read(const std::string& section, const std::string& key,
                               const std::string& fallback) {
     const QString group = QString::fromStdString(section).section('\\', -1);
+    const QString path = (group + '/' + QString::fromStdString(key)).toLower();
     // locateAll() finds regular files only: opening a pipe would wait for a writer.
     const QStringList files =
         QStandardPaths::locateAll(QStandardPaths::GenericConfigLocation, "Tephrex3.ini");
     for (const QString& file : files) {
         const QSettings settings(file, RawIni());
-        const QVariant value = settings.value(group + '/' + QString::fromStdString(key));
+        const QVariant value = settings.value(path);
         if (value.isValid()) {
             return value.toByteArray().toStdString();
         }

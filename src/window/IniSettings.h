@@ -6,9 +6,9 @@
 
 class IniSettings : public SettingsStore {
 public:
-    /// The part of `section` after the last backslash is the group in the file. Group and key are
-    /// case-sensitive. Returns the bytes after the "=" unchanged. Files that are not regular files
-    /// are ignored.
+    /// The part of `section` after the last backslash is the group in the file. Group and key
+    /// match in any case. Returns the bytes after the "=" unchanged. Files that are not regular
+    /// files are ignored.
     std::string Read(const std::string& section, const std::string& key,
                      const std::string& fallback) override;
 };

@@ -9,7 +9,7 @@
 TEST(IniSettingsTest, AValueArrivesByteForByte) {
     const std::string system = qgetenv("XDG_CONFIG_DIRS").toStdString();
     std::filesystem::create_directories(system);
-    WriteBytes(system + "/Tephrex3.ini", "[Settings]\r\nDataPath=/system\r\nOther=1\r\n");
+    WriteBytes(system + "/Tephrex3.ini", "[SETTINGS]\r\ndatapath=/system\r\nOther=1\r\n");
     const auto read = [](const std::string& key) {
         return IniSettings().Read("Tephrex3\\Settings", key, "none");
     };
