@@ -103,7 +103,7 @@ void Compare(benchmark::State& state, Goal goal, const Turn& reference, const Tu
             return;
         }
         results.push_back(memory ? own.back() - references.back() : own.back() / references.back());
-        // Preparations count towards the length of the run, but towards nothing else.
+        // Preparations count only towards the length of the run.
         state.SetIterationTime(std::chrono::duration<double>(Clock::now() - start).count());
     }
     const auto typical = [&goal](const std::vector<double>& values) {

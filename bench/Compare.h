@@ -1,29 +1,28 @@
-// A figure of a benchmark: a task of ours against a reference, in turn within one run. The speed of
-// a machine drifts and other programs use it too, so only the ratio of two consecutive turns
-// counts.
+// A figure of a benchmark: a task of ours and a reference, which take turns within one run. The
+// speed of a machine drifts and other programs use it too, so two consecutive turns are compared.
 #pragma once
 
 #include <benchmark/benchmark.h>
 
 #include <functional>
 
-/// Runs `work` that many times; returns the processor time of one, in seconds.
+/// Runs `work` repeatedly; returns the average processor time of one run, in seconds.
 template <class Work>
 double Timed(int times, const Work& work);
 
-/// Does its task once or a few times and returns what one took, in the unit of the goal. A task
-/// that fails throws.
+/// Does its task once or a few times and returns the cost of one run, in the unit of the goal.
+/// Throws if the task fails.
 using Turn = std::function<double()>;
 
 enum class Unit { Seconds, Megabytes };
 
 /// The bounds of a figure: for seconds, of the ratio of ours to the reference; for megabytes, of
-/// what ours takes more than the reference.
+/// ours minus the reference, where only `most` counts.
 struct Goal {
     double most;
     double least = 0;
     Unit unit = Unit::Seconds;
-    bool best = false;  // compare the best turns, where other programs would slow most of them
+    bool best = false;  // compare the best turns, not the medians
 };
 
 /// Takes turns until the benchmark has run long enough, and puts the medians into its counters. A

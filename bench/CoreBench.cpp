@@ -140,7 +140,7 @@ void Add(benchmark::State& state) {
         [&] {
             plain->form.cmbPhase.Pick(0);
             plain->form.CurPhase = 2;
-            flows.assign(flows.size(), row);  // in the cache, as those of a record just opened
+            flows.assign(flows.size(), row);  // into the cache, like those of a record just opened
             return Timed(1, [&] {
                 std::memmove(&phases[3], &phases[2], moved * sizeof(PhaseRecord));
                 std::memmove(&flows[3], &flows[2], moved * sizeof(FlowRow));
@@ -154,9 +154,9 @@ void Add(benchmark::State& state) {
 }
 BENCHMARK(Add)->Name("Add after phase 1 of 499")->UseManualTime();
 
-// Growth: the largest record against as many small ones as have its phases together. Times per
-// phase within 20 percent of each other are linear; very small records pay the fixed costs of files
-// too.
+// Growth: the largest record against small ones with as many phases in all. Growth counts as linear
+// if the times per phase are within 20 percent of each other; very small records also pay the fixed
+// costs of a file.
 template <class Work>
 void Grow(benchmark::State& state, Integer few, Goal goal, Work work) {
     const RecordOnDisk small(few);

@@ -1,5 +1,5 @@
-// The reference for tephrexdraw: a program that paints one text into an SVG, PNG or PDF file, by
-// the ending of the name that it is given, on a page of the same size.
+// The reference for tephrexdraw: a program that paints one text into an SVG, PNG or PDF file,
+// depending on the ending of the name that it is given, on a page of the same size.
 
 #include <QGuiApplication>
 #include <QImage>

@@ -13,7 +13,7 @@
 /// bytes must be as the editor writes them.
 void ReadPlainly(std::string_view bytes, EditorState& state);
 
-/// The loaded copy as text, built in `buffer`, which must be large enough, and written in one call.
+/// Writes the loaded copy in one call, from `buffer`, which must have room for the whole file.
 /// Throws if the file cannot be opened.
 void WritePlainly(const std::string& path, const EditorState& state, std::vector<char>& buffer);
 
@@ -25,14 +25,15 @@ struct Shown {
 
 using ShownPhase = std::array<Shown, 20>;
 
-/// The numbers that a form shows of a phase.
+/// The numbers of a phase that the form shows.
 ShownPhase NumbersOf(const PhaseRecord& phase);
 
+/// The number that the text begins with; 0 if there is none.
 Single ParsePlainly(std::string_view text);
 std::string FormatPlainly(Shown shown);
 
 /// Formats the numbers into the texts and parses them back.
 void ShowPlainly(ShownPhase& numbers, std::array<std::string, 20>& texts);
 
-/// Builds the list of 100 flows again.
+/// Replaces the entries by those of 100 flows.
 void ListFlowsPlainly(std::vector<std::string>& entries);

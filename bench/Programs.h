@@ -1,4 +1,4 @@
-// Running other programs, and what a run has cost.
+// Running other programs, and what a run costs.
 #pragma once
 
 #include <sys/types.h>
@@ -10,11 +10,12 @@ using Command = std::vector<std::string>;
 
 struct Usage {
     double processorSeconds;
-    double peakMegabytes;  // of resident memory; never below that of the program that started it
+    double peakMegabytes;  // of resident memory; at least that of the program that started it
 };
 
-/// Starts a program, found by PATH, and returns its process. Throws if that fails.
+/// Starts a program, looked up in PATH, and returns its process id. Throws if that fails.
 pid_t Start(const Command& command);
 
-/// Runs a program until it ends by itself. Throws if its exit status is not 0.
+/// Runs a program and waits for its end. Throws if it cannot be started or its exit status is not
+/// 0.
 Usage RunToEnd(const Command& command);

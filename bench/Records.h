@@ -7,9 +7,9 @@
 
 #include "form/RecordEdit.h"
 
-/// A record of that many Hawaiian phases, 0 to 500, with 100 flows each. It passes every check, and
-/// neighbouring phases differ in every box but that of the bursts. Records with different `shift`
-/// have different phases at the same places.
+/// A record of 0 to 500 Hawaiian phases with 100 flows each. It passes every check, and
+/// neighbouring phases differ in every box except the number of bursts. Records with a different
+/// `shift` differ in every phase.
 std::unique_ptr<EditorState> RecordOf(Integer phases, int shift = 0);
 
 /// The same record as a file, deleted with the object. Throws if it cannot be written.
@@ -36,7 +36,7 @@ class QuietPlatform : public MessageBoxes,
 public:
     std::string answer;
 
-    /// Wires and loads the form on this platform, in that window.
+    /// Wires and loads the form with this platform and `window`.
     void Load(RecordEdit& form, Window& window);
 
     void Show(const std::string&, MessageIcon, std::string_view) override {}

@@ -17,7 +17,7 @@ constexpr auto NoChangeFor = 1s;  // long enough for a program that reads a file
 constexpr auto FirstChangeWithin = 30s;
 constexpr auto LastWindowGoneWithin = 200ms;
 
-// An insertion point blinks for ever: narrower changes, in pixels, do not count.
+// In pixels: narrower changes are a blinking insertion point, which never stops, and do not count.
 constexpr int NarrowestChange = 16;
 
 struct Free {

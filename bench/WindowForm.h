@@ -10,7 +10,7 @@
 struct WindowForm {
     WindowForm();
 
-    /// Opens a record through the button in the window.
+    /// Opens a record through the button in the window. A failure shows no message.
     void Open(const std::string& path);
 
     QuietPlatform platform;

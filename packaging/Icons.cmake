@@ -1,4 +1,4 @@
-# The icons of the program and of its files, in every size that desktops ask for. The build makes
+# The icons of the program and of its files, in every size that desktops use. The build makes
 # them from the drawings; none are kept with the sources.
 
 include(${CMAKE_CURRENT_LIST_DIR}/PixelArt.cmake)

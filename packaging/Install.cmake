@@ -13,15 +13,15 @@ include(${CMAKE_CURRENT_LIST_DIR}/Package.cmake)
 function(install_program program folder)
   install(TARGETS ${program} RUNTIME DESTINATION ${folder})
   install(CODE "
-    if(CMAKE_INSTALL_DO_STRIP)  # which leaves the compiler's name in the file
+    if(CMAKE_INSTALL_DO_STRIP)  # strip leaves the compiler's name in the file
       execute_process(COMMAND \"${CMAKE_STRIP}\" --remove-section=.comment
         \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${folder}/${program}\" COMMAND_ERROR_IS_FATAL ANY)
     endif()")
   set_property(GLOBAL APPEND PROPERTY TEPHREX_PROGRAMS ${program})
 endfunction()
 
-# The editor and its help file share a private folder, the same on every platform whatever the folder
-# of its libraries is called; people start the editor through a link.
+# The editor and its help file share a private folder, which is lib/ on every platform, even if
+# libraries are elsewhere. A link in bin starts the editor.
 set(TEPHREX_PROGRAM_DIR lib/tephrexedit)
 install_program(tephrexedit ${TEPHREX_PROGRAM_DIR})
 install(FILES data/Tephrex3.hlp DESTINATION ${TEPHREX_PROGRAM_DIR})

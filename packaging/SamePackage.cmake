@@ -1,5 +1,5 @@
-# Run by cpack when everything is in its temporary folder: the same program gives the same package,
-# no matter when and by whom it is packed.
+# Run by cpack when everything is in its temporary folder, so that the same program gives the same
+# package, no matter when and by whom it is packed.
 
 set(ENV{SOURCE_DATE_EPOCH} ${CPACK_SECONDS_OF_CHANGELOG})
 

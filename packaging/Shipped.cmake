@@ -1,4 +1,4 @@
-# How programs that are shipped are built: hardened, and without paths of the build machine.
+# How released programs are built: hardened, and without paths of the build machine.
 # Fortifying works in optimised builds only. Nothing interposes the functions of our libraries, so they
 # may be inlined although their code is position-independent.
 

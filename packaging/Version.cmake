@@ -1,5 +1,5 @@
-# The version is in the project's declaration and its date in the change log. Here both are compared
-# with the other files that repeat them; the manuals get them when installing.
+# The version is in the project's declaration and its date in the change log. Both are compared
+# here with the files that repeat them; the manuals get them when installing.
 
 set(TEPHREX_CHANGELOG ${CMAKE_CURRENT_LIST_DIR}/changelog)
 set(TEPHREX_METAINFO ${PROJECT_SOURCE_DIR}/data/desktop/org.example.tephrexedit.metainfo.xml)

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs what is missing, builds the benchmarks in release mode, runs all of them and prints one
-# table. scripts/bench.sh --once takes each figure once, to see that the benchmarks still work.
+# table. scripts/bench.sh --once takes each figure once, to check that the benchmarks work.
 . "$(dirname "$0")/lib.sh"
 
 core=2 check=30 window=5 start=40 # seconds for each figure; starting programs takes longest
@@ -15,7 +15,7 @@ cmake -S . -B build/bench -DCMAKE_BUILD_TYPE=Release -DTEPHREX_BENCH=ON -DBUILD_
     >/dev/null
 cmake --build build/bench -j "$(nproc)" >/dev/null
 
-# Keeps out the user's settings and the disk: the records are in memory.
+# Without the user's settings, and with the records in memory rather than on a disk.
 home=$(mktemp -d)
 trap 'rm -rf "$home"' EXIT
 export HOME=$home XDG_CONFIG_HOME=$home XDG_RUNTIME_DIR=$home LC_ALL=C.UTF-8

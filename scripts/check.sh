@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Format, lint, and the arrows between the parts of the program. Needs a build in build/default.
+# Format, lint, and which unit includes which. Needs a build in build/default.
 . "$(dirname "$0")/lib.sh"
 
 install_missing git clang-format clang-tidy
@@ -14,25 +14,25 @@ if grep -n '#include "window/' "${others[@]}"; then
     echo "Nothing else may include window/"
     exit 1
 fi
-# The arrows between units: a unit is a header with its source, an arrow is an include of another.
+# What each unit includes of others; a unit is a header with its source.
 (cd src && grep -o '#include "[^"]*"' -- */*.h */*.cpp |
-    sed -E 's/^([^:]*)\.(h|cpp):#include "([^"]*)\.h"/\1 \3/' | awk '$1 != $2' | sort -u) >build/arrows
-# No circle among them: tsort fails on one and names it.
-tsort build/arrows >/dev/null
+    sed -E 's/^([^:]*)\.(h|cpp):#include "([^"]*)\.h"/\1 \3/' | awk '$1 != $2' | sort -u) >build/includes
+# No cycles: tsort fails on one and prints it.
+tsort build/includes >/dev/null
 # The plain library includes nothing but itself.
 if awk 'NR == FNR { plain[$1]; next } $1 in plain && !($2 in plain)' \
-    src/plain_units.txt build/arrows | grep .; then
+    src/plain_units.txt build/includes | grep .; then
     echo "A plain unit may include plain units only"
     exit 1
 fi
-# A program without the form includes only that library, its own units and those named here.
+# tephrexcheck and tephrexdraw do not depend on the form; tephrexdraw also includes tephrexcheck.
 if awk 'NR == FNR { plain[$1]; next } $1 ~ /^check\// && $2 !~ /^check\// && !($2 in plain)' \
-    src/plain_units.txt build/arrows | grep .; then
+    src/plain_units.txt build/includes | grep .; then
     echo "tephrexcheck may include the plain library only"
     exit 1
 fi
 if awk 'NR == FNR { plain[$1]; next } $1 ~ /^draw\// && $2 !~ /^(check|draw)\// && !($2 in plain)' \
-    src/plain_units.txt build/arrows | grep .; then
+    src/plain_units.txt build/includes | grep .; then
     echo "tephrexdraw may include the plain library and tephrexcheck's units only"
     exit 1
 fi

@@ -1,8 +1,7 @@
 #!/usr/bin/env bash
-# Runs the tests of the core and reports which of its lines and branches they reach, and where the
-# others are. Branches that only exceptions take are left out: a throw, what comes after it on a
-# line that was reached without it, and the types that a catch does not match. So are those that the
-# compiler adds to defaulted functions. Further arguments are passed to the tests.
+# Runs the tests of the core and reports how many of its lines and branches they reach, and the line
+# numbers of the others. Branches that only exceptions take, those in code that was never executed and
+# those of defaulted functions are left out. Further arguments are passed to the tests.
 . "$(dirname "$0")/lib.sh"
 
 install_missing g++ cmake make libgtest-dev

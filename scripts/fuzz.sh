@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # fuzz.sh [SECONDS]: builds the fuzz targets, runs each on the seeds in fuzz/seeds and then fuzzes it
-# for that many seconds (30 if none are given). Failing inputs are in build/fuzz/findings, the inputs
-# found to reach new code in build/fuzz/corpus, which the next run starts from.
+# for that many seconds (30 if none are given). Failing inputs are in build/fuzz/findings; inputs
+# that reach new code are in build/fuzz/corpus, from which the next run starts.
 . "$(dirname "$0")/lib.sh"
 
 seconds=${1:-30}

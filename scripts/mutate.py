@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
-"""mutate.py [HOW_MANY [SEED]]: changes src in one small place at a time and runs the tests of it.
+"""mutate.py [HOW_MANY [SEED]]: makes one small change to src at a time and runs the tests for it.
 
-Each change is one that a slip of the hand could make: a comparison, sign, number, text or cell, a
-step left out, two steps exchanged. The tests should notice; what they do not notice is printed with
-its place and the lines before and after, for a human to judge: some changes make no difference.
-HOW_MANY is 100 if it is not given, and the seed is drawn. Works on copies of the project, one for
-each processor. The walks of the window need what scripts/screen.sh installs.
+Each change could be a slip: another comparison, sign, number, text or cell of a table, a step left
+out, two steps exchanged. The tests should notice it. If they do not, its place and the lines
+before and after it are printed for a human to judge, since some changes make no difference.
+HOW_MANY is 100 and SEED random unless given. Works on copies of the project, one for each
+processor. The walks of the window need what scripts/screen.sh installs.
 """
 
 import os
@@ -21,12 +21,12 @@ from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
 PROJECT = Path(__file__).resolve().parent.parent
-# A run counts as hanging, which is noticed too, if it takes more than so many times its usual time
-# and more than so many seconds.
+# A test run hangs, and so notices the change, if it takes longer than SECONDS and than SLOWER times
+# its usual time.
 SLOWER, SECONDS = 10, 120
 
-# The tests of each folder of src: what is built for them, and the command in the folder of the
-# build. Monkeys make few steps: a change that only they notice should count as missed.
+# The tests of each folder of src: the target to build, and the command to run in the build folder.
+# The random tests are short: a change that only they notice should count as missed.
 CORE = ("core_tests", ("env", "TEPHREX_MONKEY_ACTS=2000", "tests/core_tests",
                        "--gtest_fail_fast"))
 WINDOW = ("window_tests", ("env", "QT_QPA_PLATFORM=offscreen", "TEPHREX_MONKEY_ACTS=200",
@@ -37,9 +37,9 @@ DRAWING = ("tephrexdraw", ("ctest", "-V", "-R", "^draw$"))
 WALKS = ("tephrexedit", ("ctest", "-V", "--stop-on-failure", "-R", "^(road|spoken)$"))
 EARLY = ("closed_early", ("ctest", "-V", "-R", "^closed-early$"))
 TESTS = {"": (EARLY, WALKS), "window": (WINDOW, WALKS), "check": (CORE,), "draw": (DRAW, DRAWING)}
-OF_OTHER_ROOMS = (CORE, WINDOW)
+TESTS_OF_OTHER_FOLDERS = (CORE, WINDOW)
 
-# Patterns are looked for in code alone; comments are blanked out and texts keep their quotes only.
+# Patterns are matched against code only: comments, and texts between their quotes, are blanked out.
 SWAPS = {
     "comparison": {" < ": " <= ", " <= ": " < ", " > ": " >= ", " >= ": " > ", " == ": " != ",
                    " != ": " == "},
@@ -61,14 +61,14 @@ QUIET = re.compile(r"EnableBurstFields\(|\.Set(Enabled|Caption|Visible|ToolTipTe
 
 
 def code_of(line):
-    """The line with its comment and the inside of its texts and characters blanked out."""
+    """The line with its comment and what is between quotes blanked out."""
     line = re.sub(r"'(\\.|[^'\\])'", lambda m: "'" + " " * (len(m[0]) - 2) + "'", line)
     line = TEXT.sub(lambda m: '"' + "~" * (len(m[0]) - 2) + '"', line)
     return re.sub(r"//.*", lambda m: " " * len(m[0]), line)
 
 
 def blanked(codes):
-    """The lines with what only the compiler asks for blanked out: its assertions, array sizes."""
+    """The lines with what only the compiler checks blanked out: static assertions, array sizes."""
     open_brackets = 0  # of an assertion
     for i, code in enumerate(codes):
         asserts = open_brackets > 0 or code.lstrip().startswith("static_assert(")
@@ -84,10 +84,10 @@ def replaced(line, match, text):
 
 
 def changes_of(lines, in_order):
-    """All changes of a file: kind, number of the first line, the lines, what replaces them.
+    """All changes to a file: kind, index of the first line, the lines, their replacements.
 
-    Lines are left out and exchanged only where their order is that of the steps of a routine or
-    of the rows of a rule, and not that of declarations.
+    Lines are left out and exchanged only if `in_order`: if they are the steps of a routine or the
+    rows of a rule, and not declarations.
     """
     codes = blanked([code_of(line) for line in lines])
     for i, (line, code) in enumerate(zip(lines, codes)):
@@ -106,7 +106,7 @@ def changes_of(lines, in_order):
                 text = f"{number:.2f}" if "." in match[0] else f"{number:.0f}"
                 yield "constant", i, [line], [replaced(line, match, text)]
         for match in TEXT.finditer(line):
-            # Nothing depends on the words of a failure.
+            # Nothing depends on the text of an exception.
             if code[match.start()] == '"' and len(match[0]) > 2 and "throw " not in code:
                 yield "text", i, [line], [replaced(line, match, match[0][:-2] + '"')]
         begins = codes[i - 1].rstrip()[-1:] in ("", ";", "{", "}", ":")
@@ -122,8 +122,8 @@ def changes_of(lines, in_order):
 
 
 def all_changes(src):
-    """Changes in an order that takes all kinds in turn, large files more often than small, and
-    headers seldom: for them everything that includes them is built again."""
+    """Takes all kinds of change in turn, from large files more often than from small ones, and from
+    headers seldom, since everything that includes them is rebuilt."""
     kinds = {}
     for path in sorted(src.rglob("*.*")):
         if path.suffix not in (".cpp", ".h"):
@@ -157,7 +157,7 @@ class Copy:
 
     def __init__(self, folder):
         self.src, self.build = folder / "src", folder / "build"
-        self.seconds = {}  # that each test run takes without a change
+        self.seconds = {}  # by tests: how long they take without a change
         shutil.copytree(PROJECT, folder, ignore=shutil.ignore_patterns("build", ".git"))
         run("cmake", "-S", folder, "-B", self.build, "-DCMAKE_BUILD_TYPE=None",
             "-DBUILD_TESTING=ON", "-DCMAKE_CXX_FLAGS=-O0",
@@ -173,18 +173,17 @@ class Copy:
         return run("cmake", "--build", self.build, "--target", tests[0]).returncode == 0
 
     def failure(self, tests):
-        """What the tests print if they fail, else nothing."""
+        """What the tests print if they fail, otherwise an empty text."""
         known = self.seconds.get(tests)
         limit = known and max(SLOWER * known, SECONDS)
         try:
             result = run(*tests[1], cwd=self.build, timeout=limit)
             return (result.stdout or "failed") if result.returncode != 0 else ""
         except subprocess.TimeoutExpired:
-            return "[ RUN      ] longer-than-ever"
+            return "[ RUN      ] time-limit"
 
     def noticed_by(self, all_tests):
-        """The name of the test that fails; empty if none does; None if the change does not even
-        build."""
+        """The name of a test that fails; empty if none does; None if the change does not build."""
         for tests in all_tests:
             if not self.builds(tests):
                 return None
@@ -195,8 +194,9 @@ class Copy:
         return ""
 
     def try_change(self, path, change):
-        room = path.parts[0] if len(path.parts) > 1 else ""
-        for tests in TESTS.get(room, OF_OTHER_ROOMS):
+        folder = path.parts[0] if len(path.parts) > 1 else ""
+        all_tests = TESTS.get(folder, TESTS_OF_OTHER_FOLDERS)
+        for tests in all_tests:
             if tests not in self.seconds:
                 self.measure(tests)
         _, at, old, new = change
@@ -207,13 +207,13 @@ class Copy:
         lines[at : at + len(old)] = new
         file.write_text("\n".join(lines))
         try:
-            return self.noticed_by(TESTS.get(room, OF_OTHER_ROOMS))
+            return self.noticed_by(all_tests)
         finally:
             file.write_text(text)
 
 
 class Trial:
-    """Tries changes in copies of the project, side by side, until so many are tried."""
+    """Tries `how_many` changes, in several copies of the project at the same time."""
 
     def __init__(self, how_many):
         self.how_many, self.tried, self.missed = how_many, 0, 0

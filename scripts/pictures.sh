@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # pictures.sh PROGRAM: makes the pictures of the README again: screenshots of the running editor with
 # the demonstration record, and drawings by tephrexdraw in the same folder. Look at the drawings before
-# they are committed: from then on the tests expect them.
+# you commit them: the tests compare with them.
 . "$(dirname "$0")/lib.sh"
 
 install_missing "${screen_packages[@]}"

@@ -1,5 +1,5 @@
-# A user at a virtual screen: starts the editor in a real window and uses it with mouse and keys.
-# Sourced by the walks. Places are in twips, as in the form's catalogue.
+# Starts the editor on a virtual screen and uses it with mouse and keys, as a user would. Sourced by
+# the walks, the scripts that do so. Places are in twips, as in the form's catalogue.
 
 pictures=${TEPHREX_PICTURES:-$PWD/build/pictures}
 mkdir -p "$pictures"
@@ -7,7 +7,7 @@ home=$(mktemp -d)
 leftovers=("$home")
 trap 'kill $(jobs -p) 2>/dev/null || true; rm -rf "${leftovers[@]}"' EXIT
 
-# Everything a walk starts has this home, so it neither reads nor changes the user's files.
+# Everything that a walk starts has this home folder, so it neither reads nor changes the user's files.
 mkdir -m 700 "$home/.config" "$home/run"
 export HOME=$home XDG_RUNTIME_DIR=$home/run
 unset XDG_CONFIG_HOME XDG_CACHE_HOME XDG_DATA_HOME XDG_STATE_HOME XDG_CONFIG_DIRS
@@ -42,13 +42,13 @@ wait_until() {
         if "$@" >/dev/null 2>&1; then return 0; fi
         sleep 0.05
     done
-    fail "waited in vain for: $*"
+    fail "waited twenty seconds for: $*"
 }
 
 window_named() { xdotool search --onlyvisible --name "$1"; }
 no_window_named() { ! window_named "$1"; }
 
-# await NAME, await_gone NAME: until a window is there and has the keys, or is gone.
+# await NAME, await_gone NAME: until a window is visible and has the focus, or is gone.
 await() {
     wait_until window_named "$1"
     xdotool windowactivate --sync "$(window_named "$1" | tail -n 1)" 2>/dev/null || true
@@ -58,7 +58,7 @@ await_gone() {
     xdotool windowactivate --sync "$form" 2>/dev/null || true # a click before that can get lost
 }
 
-# painted: a window whose updates are turned off appears too, but in one colour.
+# painted: until the form paints, its window is visible but in one colour.
 painted() { [ "$(import -window "$form" -format %k info:-)" -gt 40 ]; }
 
 # start_editor PROGRAM [DATA_FOLDER]: without a data folder there is no settings file.
