@@ -4,6 +4,7 @@
 #include "check/RecordCheck.h"
 #include "check/Wording.h"
 #include "rules/EruptionTypes.h"
+#include "rules/FieldUse.h"
 
 namespace {
 
@@ -249,6 +250,7 @@ std::string Invalid(const std::string& findings) {
 
 TEST(CheckTest, EachLimitIsReportedWithItsLineAndValueAndAValueAtTheLimitPasses) {
     for (const Row& row : Rows) {
+        EXPECT_TRUE(Uses(GoodPhase(row.type), FieldOf(&PhaseRecord::eruptionType)));
         const std::string type(EntryOf(GoodPhase(row.type))->name);
         const std::size_t bar = row.found.find('|');
         EXPECT_EQ(Invalid(Findings(WithFault(row, row.value))),

@@ -47,7 +47,9 @@ QIcon FormIcon() {
 }
 
 FormWindow::FormWindow(RecordEdit& ownForm)
-    : form(ownForm), area(new FormArea(this)), limits(new SizeLimits(*this)) {
+    : form(ownForm),
+      area(new FormArea(this)),
+      limits(new SizeLimits(*this, QGuiApplication::platformName())) {
     DescribeWidgets();
     setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                    Qt::WindowMinimizeButtonHint | Qt::WindowCloseButtonHint);

@@ -4,10 +4,8 @@
 #include <QEvent>
 #include <QWindow>
 
-SizeLimits::SizeLimits(QWidget& ownWindow)
-    : QObject(&ownWindow),
-      window(ownWindow),
-      needed(QGuiApplication::platformName().startsWith("wayland")) {
+SizeLimits::SizeLimits(QWidget& ownWindow, const QString& platform)
+    : QObject(&ownWindow), window(ownWindow), needed(platform.startsWith("wayland")) {
     if (needed) {
         qApp->installEventFilter(this);
     }

@@ -8,7 +8,7 @@
 class SizeLimits : public QObject {
 public:
     /// The window becomes its parent. Without Wayland it does nothing: there the limits do no harm.
-    explicit SizeLimits(QWidget& ownWindow);
+    SizeLimits(QWidget& ownWindow, const QString& platform);
 
     /// Call it before the window is shown: a size can be imposed from the start.
     void Lift();

@@ -62,17 +62,20 @@ TEST_F(FilesTest, AnyNameIsShownInOneLineAndChosenToTheByte) {
         const std::string path = folder / name;
         EXPECT_EQ(Choose(false, path), path);
         EXPECT_EQ(question, "");
+        const std::string shown = ToScreen(name).toStdString();
         EXPECT_EQ(Choose(true, "", name), "") << "is not there yet";
+        EXPECT_EQ(question,
+                  shown + "\nFile not found.\nPlease verify the correct file name was given.");
         WriteBytes(path, "");
         EXPECT_EQ(Choose(true, path), path);
         EXPECT_EQ(Choose(true, "", name), path);
         EXPECT_EQ(Choose(false, path), path);
-        const QString shown = ToScreen(name);
-        EXPECT_EQ(question, shown.toStdString() + " already exists.\nDo you want to replace it?");
-        EXPECT_TRUE(std::none_of(shown.begin(), shown.end(), [](QChar c) {
+        EXPECT_EQ(question, shown + " already exists.\nDo you want to replace it?");
+        const QString letters = ToScreen(name);
+        EXPECT_TRUE(std::none_of(letters.begin(), letters.end(), [](QChar c) {
             return c.category() == QChar::Other_Control || c == QChar::LineSeparator;
         })) << name;
-        EXPECT_EQ(FromScreen(shown), name);
+        EXPECT_EQ(FromScreen(letters), name);
     }
 }
 
@@ -108,6 +111,17 @@ TEST_F(FilesTest, ANameGetsItsExtensionAndNoFileIsReplacedUnasked) {
         if (chosen.empty()) {
             EXPECT_EQ(question, typed + "\nNo file can have this name.");
         }
+    }
+}
+
+TEST_F(FilesTest, AQuestionOfTheToolkitShowsANameInOneLine) {
+    for (const char* const asked : {"'%1' is write protected.\nDo you want to delete it anyway?",
+                                    "Are you sure you want to delete '%1'?", "What is '%1'?"}) {
+        QLabel label(QString(asked).arg("a\nb"), &window);
+        label.ensurePolished();
+        const bool own = asked[0] != 'W';
+        EXPECT_EQ(label.text(), QString(asked).arg(own ? ToScreen("a\nb") : "a\nb"));
+        EXPECT_EQ(label.textFormat(), Qt::PlainText);
     }
 }
 

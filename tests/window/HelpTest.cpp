@@ -12,6 +12,12 @@ TEST(HelpTextTest, IsATopicOfARegularFileAndNothingElse) {
     WriteBytes(folder / "long", "# 94 Topic\n" + std::string(300 << 10, '\n'));
     WriteBytes(folder / "linked", "# 94 [A *b*](file:///c)\n![d](" + picture +
                                       ") <http://e.org> <img src=\"" + picture + "\">\n");
+    WriteBytes(folder / "table", "# 94 T\n\n| a | b |\n| --- | --- |\n| c | d |\n");
+    const auto table = HelpDocument(QString::fromStdString(folder / "table"), 94);
+    const QTextFrame* const frame = table->rootFrame()->childFrames().value(0);
+    const auto format = dynamic_cast<const QTextTable&>(*frame).format();
+    EXPECT_TRUE(format.borderCollapse());
+    EXPECT_EQ(format.cellPadding() * 100 + format.bottomMargin(), 412);
     mkfifo((folder / "pipe").c_str(), 0600);
     struct Row {
         std::string file, text;
@@ -30,6 +36,8 @@ TEST(HelpTextTest, IsATopicOfARegularFileAndNothingElse) {
         const auto shown = HelpDocument(QString::fromStdString(folder / file), topic);
         EXPECT_EQ(shown->toPlainText().toStdString(), text);
         EXPECT_FALSE(shown->toHtml().contains("href")) << file;
+        EXPECT_FALSE(shown->toHtml().contains("underline") || shown->toHtml().contains("color:#"));
+        EXPECT_EQ(shown->documentMargin(), 12);
     }
 }
 
@@ -90,8 +98,24 @@ TEST_F(WindowTest, HelpIsReadByKeysAndKeepsItsPlaceUntilItIsClosed) {
     EXPECT_EQ(passed.join(", "), "Headings, Find, Find previous (Shift+F3), Find next (F3), Top");
     EXPECT_FALSE(list.rootIsDecorated() || list.itemsExpandable() ||
                  list.isHeaderHidden() == false);
-    auto& parts = *help.findChild<QSplitter*>();
     const auto share = [&help](int width) { return width * help.fontMetrics().averageCharWidth(); };
+    EXPECT_EQ(list.frameShape() + page.frameShape(), int(QFrame::NoFrame));
+    EXPECT_EQ(list.indentation(), 2 * list.fontMetrics().averageCharWidth());
+    EXPECT_EQ(list.horizontalScrollMode(), QAbstractItemView::ScrollPerPixel);
+    EXPECT_FALSE(list.header()->stretchLastSection());
+    EXPECT_EQ(list.header()->sectionResizeMode(0), QHeaderView::ResizeToContents);
+    EXPECT_TRUE(page.isReadOnly());
+    EXPECT_FALSE(help.testAttribute(Qt::WA_QuitOnClose));
+    const auto buttons = help.findChildren<QToolButton*>();
+    EXPECT_TRUE(buttons[0]->autoRaise() && buttons[0]->arrowType() == Qt::UpArrow);
+    EXPECT_TRUE(buttons[1]->autoRaise() && buttons[1]->arrowType() == Qt::DownArrow);
+    EXPECT_EQ(buttons[1]->toolTip(), "Find next (F3)");
+    EXPECT_EQ(help.findChild<QHBoxLayout*>()->contentsMargins(), QMargins(6, 6, 6, 0));
+    EXPECT_EQ(help.layout()->contentsMargins(), QMargins());
+    auto& parts = *help.findChild<QSplitter*>();
+    EXPECT_FALSE(parts.childrenCollapsible());
+    EXPECT_EQ(help.frameGeometry().left(), window.frameGeometry().right() + 1);
+    EXPECT_EQ(help.findChild<QLineEdit*>()->maximumWidth(), share(40));
     EXPECT_EQ(help.width(), share(132));
     EXPECT_EQ(help.height(), 42 * help.fontMetrics().lineSpacing());
     EXPECT_EQ(page.palette().color(QPalette::Inactive, QPalette::Highlight),

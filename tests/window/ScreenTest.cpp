@@ -4,6 +4,7 @@
 #include <QProxyStyle>
 
 #include "WindowTest.h"
+#include "form/Catalogue.h"
 #include "window/WidestTexts.h"
 
 class ScreenTest : public WindowTest {
@@ -108,6 +109,37 @@ TEST_F(ScreenTest, InAnyImposedSizeTheFormIsInTheMiddleOrScrolls) {
         window.showNormal();
     }
     EXPECT_EQ(window.minimumSize(), formSize);
+}
+
+TEST(SizeLimitsTest, AreAwayWhileASizeIsImposedUnderWaylandAndBackThen) {
+    const QSize own(300, 200);
+    for (const char* const platform : {"wayland", "wayland-egl", "xcb"}) {
+        QWidget window;
+        SizeLimits limits(window, platform);
+        window.setFixedSize(own);
+        limits.Lift();
+        window.show();
+        QWindow& handle = *window.windowHandle();
+        const bool needed = QString(platform) != "xcb";
+        EXPECT_EQ(handle.minimumSize() == QSize(0, 0), needed) << platform;
+        EXPECT_EQ(handle.maximumSize() == QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX), needed);
+        for (const auto impose : {&QWidget::showMaximized, &QWidget::showFullScreen}) {
+            (window.*impose)();
+            QApplication::processEvents();
+            QExposeEvent expose(QRect(QPoint(), own));
+            QApplication::sendEvent(&handle, &expose);
+            EXPECT_EQ(handle.minimumSize() == own, !needed);
+            EXPECT_EQ(window.size() == own, false);
+        }
+        window.showNormal();
+        QApplication::processEvents();
+        handle.resize(310, 210);
+        QExposeEvent expose(QRect(QPoint(), own));
+        QApplication::sendEvent(&handle, &expose);
+        EXPECT_EQ(window.size(), own);
+        EXPECT_EQ(handle.minimumSize(), own);
+        EXPECT_EQ(handle.maximumSize(), own);
+    }
 }
 
 double Brightness(const QColor& color) {
@@ -248,12 +280,13 @@ TEST_F(ScreenTest, NothingIsCutOffInAnyFontAndStyle) {
         int points;
         bool odd = false;
     };
-    for (const Row row : {Row{6}, Row{20}, Row{20, true}, Row{9, true}, Row{9}}) {
+    for (const Row row : {Row{4}, Row{20}, Row{20, true}, Row{9, true}, Row{9}}) {
         const int points = row.points;
         QApplication::setStyle(row.odd ? new OddStyle : QStyleFactory::create("fusion"));
         QApplication::setFont(QFont(QApplication::font().family(), points));
         FormWindow sized(form);
         sized.Show();
+        EXPECT_TRUE(points != 4 || Page(sized).width() == std::lround(FormWidth / 15.0));
         EXPECT_LT(Page(sized).width(), formSize.width() * std::max(points / 9.0, 1.0) * 1.4);
         const auto expectRoom = [&](std::string_view name, const QString& text) {
             auto* const widget = sized.findChild<QWidget*>(name.data());

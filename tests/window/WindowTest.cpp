@@ -127,6 +127,9 @@ TEST_F(WindowTest, NothingButAChoiceInTheOpenListIsAPick) {
     EXPECT_TRUE(window.isVisible()) << "Escape closes lists only";
 
     list->showPopup();
+    EXPECT_EQ(list->view()->minimumWidth(),
+              list->view()->sizeHintForColumn(0) + 2 * list->view()->frameWidth() +
+                  list->view()->verticalScrollBar()->sizeHint().width());
     EXPECT_EQ(list->view()->currentIndex().row(), 7) << "the entry on show";
     keyClick(list->view(), Qt::Key_Down);
     keyClick(list->view(), Qt::Key_Return);
@@ -177,17 +180,28 @@ TEST_F(WindowTest, OnlyTheFirstClosingUnloads) {
 }
 
 TEST_F(WindowTest, TheFormBehindAMessageIsUpToDate) {
-    QString behind;
-    QTimer::singleShot(0, &window, [&] {
-        behind = Find<QLabel>("labPhases")->text();
-        QApplication::activeModalWidget()->close();
-    });
-    form.cmdAdd.Click = [this] {
-        form.labPhases.SetCaption("7");
-        MessageDialogs(window).Show("Text", MessageIcon::Stop, "Title");
-    };
-    keyClick(Find("cmdAdd"), Qt::Key_Return);
-    EXPECT_EQ(behind, "7");
+    const std::pair<MessageIcon, QMessageBox::Icon> rows[]{
+        {MessageIcon::Information, QMessageBox::Information},
+        {MessageIcon::Exclamation, QMessageBox::Warning},
+        {MessageIcon::Stop, QMessageBox::Critical}};
+    for (const auto& [icon, shown] : rows) {
+        form.labPhases.SetCaption("6");
+        bool asked = false;
+        QTimer::singleShot(0, &window, [&, expected = shown] {
+            auto& box = dynamic_cast<QMessageBox&>(*QApplication::activeModalWidget());
+            EXPECT_EQ(Find<QLabel>("labPhases")->text() + box.text(), "7A\nB");
+            EXPECT_EQ(box.windowTitle(), "Title");
+            EXPECT_EQ(box.icon(), expected);
+            asked = true;
+            box.close();
+        });
+        form.cmdAdd.Click = [this, said = icon] {
+            form.labPhases.SetCaption("7");
+            MessageDialogs(window).Show("A\r\nB", said, "Title");
+        };
+        keyClick(Find("cmdAdd"), Qt::Key_Return);
+        EXPECT_TRUE(asked);
+    }
 }
 
 TEST_F(WindowTest, TipsStandOverTheirOwnControlsOnly) {
