@@ -115,6 +115,7 @@ TEST_F(WindowTest, HelpIsReadByKeysAndKeepsItsPlaceUntilItIsClosed) {
     auto& parts = *help.findChild<QSplitter*>();
     EXPECT_FALSE(parts.childrenCollapsible());
     EXPECT_EQ(help.frameGeometry().left(), window.frameGeometry().right() + 1);
+    EXPECT_EQ(help.frameGeometry().top(), window.screen()->availableGeometry().top());
     EXPECT_EQ(help.findChild<QLineEdit*>()->maximumWidth(), share(40));
     EXPECT_EQ(help.width(), share(132));
     EXPECT_EQ(help.height(), 42 * help.fontMetrics().lineSpacing());
