@@ -134,6 +134,7 @@ TEST(SizeLimitsTest, AreAwayWhileASizeIsImposedUnderWaylandAndBackThen) {
         window.showNormal();
         QApplication::processEvents();
         handle.resize(310, 210);
+        QApplication::processEvents();
         QExposeEvent expose(QRect(QPoint(), own));
         QApplication::sendEvent(&handle, &expose);
         EXPECT_EQ(window.size(), own);
