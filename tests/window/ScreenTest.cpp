@@ -114,32 +114,34 @@ TEST_F(ScreenTest, InAnyImposedSizeTheFormIsInTheMiddleOrScrolls) {
 TEST(SizeLimitsTest, AreAwayWhileASizeIsImposedUnderWaylandAndBackThen) {
     const QSize own(300, 200);
     for (const char* const platform : {"wayland", "wayland-egl", "xcb"}) {
+        const bool needed = QString(platform) != "xcb";
         QWidget window;
         SizeLimits limits(window, platform);
         window.setFixedSize(own);
         limits.Lift();
         window.show();
         QWindow& handle = *window.windowHandle();
-        const bool needed = QString(platform) != "xcb";
         EXPECT_EQ(handle.minimumSize() == QSize(0, 0), needed) << platform;
         EXPECT_EQ(handle.maximumSize() == QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX), needed);
-        for (const auto impose : {&QWidget::showMaximized, &QWidget::showFullScreen}) {
-            (window.*impose)();
+        const auto expose = [&] {
             QApplication::processEvents();
-            QExposeEvent expose(QRect(QPoint(), own));
-            QApplication::sendEvent(&handle, &expose);
-            EXPECT_EQ(handle.minimumSize() == own, !needed);
-            EXPECT_EQ(window.size() == own, false);
-        }
-        window.showNormal();
-        QApplication::processEvents();
-        handle.resize(310, 210);
-        QApplication::processEvents();
-        QExposeEvent expose(QRect(QPoint(), own));
-        QApplication::sendEvent(&handle, &expose);
-        EXPECT_EQ(window.size(), own);
+            QExposeEvent event(QRect(QPoint(), own));
+            QApplication::sendEvent(&handle, &event);
+        };
+        handle.resize(310, 210);  // by an edge that can be dragged
+        expose();
+        EXPECT_EQ(window.size() == own, needed);
         EXPECT_EQ(handle.minimumSize(), own);
         EXPECT_EQ(handle.maximumSize(), own);
+        for (const auto impose : {&QWidget::showMaximized, &QWidget::showFullScreen}) {
+            limits.Lift();
+            (window.*impose)();
+            expose();
+            EXPECT_NE(window.size(), own);
+            EXPECT_EQ(handle.minimumSize() == own, !needed);
+            window.showNormal();
+            expose();
+        }
     }
 }
 
