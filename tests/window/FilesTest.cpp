@@ -187,6 +187,7 @@ TEST_F(FilesTest, ADialogShowsItsListWholeAndEntersTheFolderSelectedInIt) {
             }
             return list->model()->rowCount(list->rootIndex()) == 3 && cut.isEmpty();
         }));
+        EXPECT_EQ(header->length(), list->viewport()->width());
         const QModelIndex any = list->model()->index(0, 0, list->rootIndex());
         const QModelIndex inner = list->model()->match(any, Qt::DisplayRole, "<b>fol").value(0);
         mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(inner).center());

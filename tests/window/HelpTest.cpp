@@ -1,5 +1,7 @@
 #include <sys/stat.h>
 
+#include <QAccessible>
+
 #include "WindowTest.h"
 #include "window/HelpText.h"
 #include "window/HelpWindow.h"
@@ -138,6 +140,27 @@ TEST_F(WindowTest, HelpIsReadByKeysAndKeepsItsPlaceUntilItIsClosed) {
     EXPECT_EQ(page.textCursor().position(), 0);
     showOrQuit(CommonDialog::Quit);
     EXPECT_FALSE(help.isVisible());
+    std::string lines;
+    for (int i = 0; i < 99; ++i) lines += "line\n\n";
+    WriteBytes(folder / "help", "# 94 Top\n" + lines + "## Part\n### Sub\n### Next\n" + lines);
+    help.move(window.frameGeometry().topRight() + QPoint(500, 400));
+    const QPoint chosen = help.pos();
+    showOrQuit(CommonDialog::ShowTopic);
+    EXPECT_EQ(help.pos(), chosen);
+    ASSERT_EQ(list.topLevelItemCount(), 2);
+    ASSERT_EQ(list.topLevelItem(1)->childCount(), 2);
+    EXPECT_TRUE(list.topLevelItem(1)->isExpanded());
+    emit list.itemClicked(list.topLevelItem(1)->child(1), 0);
+    EXPECT_EQ(page.textCursor().block().text(), "Next");
+    const QRectF block =
+        page.document()->documentLayout()->blockBoundingRect(page.textCursor().block());
+    EXPECT_EQ(page.verticalScrollBar()->value(), static_cast<int>(block.top()));
+    const auto role = [](QObject& object) {
+        return QAccessible::queryAccessibleInterface(&object)->role();
+    };
+    EXPECT_EQ(role(help), QAccessible::Window);
+    EXPECT_EQ(role(window), QAccessible::Window);
+    EXPECT_EQ(role(*help.findChild<Notice*>()), QAccessible::Notification);
 }
 
 TEST(HelpWindowTest, OpensBesideTheFormWhereThereIsRoom) {

@@ -234,6 +234,31 @@ TEST_F(ScreenTest, MarksAndTitlesKeepClearOfWhatIsBesideThem) {
              frame->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly))
             EXPECT_GT(inside->y(), end) << inside->objectName().toStdString();
     }
+    for (const CatalogueRow& row : Catalogue()) {
+        auto* const widget = sized.findChild<QWidget*>(row.name.data());
+        if (const auto* const label = qobject_cast<QLabel*>(widget)) {
+            const bool output = row.look == Look::OutputField;
+            EXPECT_EQ(label->alignment() & Qt::AlignHorizontal_Mask, output ? Qt::AlignHCenter
+                                                                     : row.look == Look::LeftAligned
+                                                                         ? Qt::AlignLeft
+                                                                         : Qt::AlignRight);
+            EXPECT_TRUE(label->alignment().testFlag(Qt::AlignVCenter));
+            EXPECT_EQ(label->frameShape(), output ? QFrame::Box : QFrame::NoFrame);
+            EXPECT_EQ(label->autoFillBackground(), output);
+        } else if (const auto* const list = qobject_cast<QComboBox*>(widget)) {
+            const bool own = row.look == Look::CustomPointer;
+            EXPECT_EQ(list->lineEdit()->cursor().hotSpot() == QPoint(12, 1), own);
+            EXPECT_EQ(list->cursor().hotSpot() == QPoint(12, 1), own);
+            EXPECT_EQ(list->cursor().pixmap().width(), own ? 32 : 0);
+        } else if (const auto* const box = qobject_cast<QLineEdit*>(widget)) {
+            EXPECT_EQ(box->alignment(), Qt::AlignCenter);
+        }
+        EXPECT_TRUE(widget == nullptr || widget->hasMouseTracking());
+    }
+    EXPECT_TRUE(sized.windowFlags().testFlags(Qt::WindowMinimizeButtonHint |
+                                              Qt::WindowCloseButtonHint | Qt::WindowTitleHint |
+                                              Qt::WindowSystemMenuHint));
+    EXPECT_FALSE(sized.windowFlags().testFlag(Qt::WindowMaximizeButtonHint));
     const auto sizes = [](const QIcon& icon) {
         QList<int> all;
         for (const QSize& size : icon.availableSizes()) all += size.width();
