@@ -120,8 +120,7 @@ void RecordCheck::CheckPhase(const NotingReader& reader, int number, bool warns)
                 {.message = message, .value = ValueText(ValueOf(phase, field))});
         });
     }
-    const Integer scale =
-        state->RecordScale == ScaleCode::NotSet ? ScaleCode::Normal : state->RecordScale;
+    const Integer scale = ScaleOf(state->RecordScale);
     if (Passes(phase, flows, scale)) {
         return;
     }

@@ -110,7 +110,7 @@ Columns ColumnsOf(const EditorState& record, const Contents& contents, double wi
     constexpr double timeAxis = 3.5;
     Columns columns{};
     columns.width = width;
-    columns.scale = ScaleOf(record);
+    columns.scale = ScaleOf(record.RecordScale);
     columns.numberEnd =
         Sheet::Margin + timeAxis + lettering.Width(Label(record.LoadedPhaseCount), Sheet::Plain);
     columns.nameStart = columns.numberEnd + 1.6;

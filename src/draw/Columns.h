@@ -46,11 +46,6 @@ struct Columns {
     double OnMap(double location) const;
 };
 
-/// The scale at which a record is drawn: that of a new record if it has none.
-constexpr Integer ScaleOf(const EditorState& record) {
-    return record.RecordScale == ScaleCode::NotSet ? ScaleCode::Normal : record.RecordScale;
-}
-
 /// The name of a phase's type in short lines; "No type" or "Unknown type n" if it has no name.
 QStringList TypeName(const PhaseRecord& phase);
 

@@ -30,7 +30,7 @@ std::vector<Refusal> RefusalsOf(const EditorState& record) {
     std::vector<Refusal> refusals;
     for (int i = 1; i <= record.LoadedPhaseCount; ++i) {
         refusals.push_back(
-            RefusalOf(record.LoadedPhases[i], record.LoadedFlows[i], ScaleOf(record)));
+            RefusalOf(record.LoadedPhases[i], record.LoadedFlows[i], ScaleOf(record.RecordScale)));
     }
     return refusals;
 }

@@ -18,6 +18,11 @@ constexpr Integer Small = 4;
 constexpr Integer NotSet = 0;
 }  // namespace ScaleCode
 
+/// The scale that counts for a record with this code: a record without a scale is normal.
+constexpr Integer ScaleOf(Integer recordScale) {
+    return recordScale == ScaleCode::NotSet ? ScaleCode::Normal : recordScale;
+}
+
 /// About half a megabyte: create it on the heap, not on the stack.
 struct EditorState {
     // The record as last read or applied; a file is written from this copy.

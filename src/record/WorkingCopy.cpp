@@ -16,9 +16,7 @@ void ShowPaths(RecordEdit& form) {
 
 // A code without an option leaves the selection as it is.
 void SelectScale(RecordEdit& form) {
-    if (form.RecordScale == ScaleCode::NotSet) {
-        form.RecordScale = ScaleCode::Normal;
-    }
+    form.RecordScale = ScaleOf(form.RecordScale);
     switch (form.RecordScale) {
         case ScaleCode::Large: form.optLarge.SetValue(true); break;
         case ScaleCode::Normal: form.optNormal.SetValue(true); break;
