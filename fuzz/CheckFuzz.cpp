@@ -1,5 +1,5 @@
-// Any bytes as a record, for tephrexcheck and for the form: the form does not open what
-// tephrexcheck calls unreadable, and does not save what it calls invalid.
+// Any bytes as a record, for tephrexcheck and for the form: the form opens all but what
+// tephrexcheck calls unreadable, and saves all of that but what it calls invalid.
 
 #include <cstdint>
 #include <memory>
@@ -24,8 +24,8 @@ public:
         return static_cast<bool>(ReadRecord(source, form));
     }
 
-    /// Whether Save writes what was opened. Showing a phase rounds its numbers, so an erosion that
-    /// is inserted first is shown instead.
+    /// Whether Save writes what was opened. Showing a phase rounds its numbers, so an erosion is
+    /// inserted before the others and shown instead.
     bool Saves() {
         for (int i = form.LoadedPhaseCount++; i > 0; --i) {
             form.LoadedPhases[i + 1] = form.LoadedPhases[i];

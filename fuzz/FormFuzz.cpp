@@ -1,4 +1,4 @@
-// Bytes as user actions at the form; after each the invariants of RandomUser hold.
+// Bytes as user actions on the form; after each the invariants of RandomUser hold.
 
 #include <cstdint>
 

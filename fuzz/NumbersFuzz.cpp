@@ -106,7 +106,7 @@ void CheckFormats(Single number, const Locale& locale) {
 
 }  // namespace
 
-// A byte for the locale, four for the number, the others for the text.
+// A byte for the locale, four for the number, the rest for the text.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     std::array<std::uint8_t, 1 + sizeof(Single)> head{};
     const std::size_t headSize = std::min(size, head.size());

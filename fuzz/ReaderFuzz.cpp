@@ -11,7 +11,7 @@
 
 namespace {
 
-// Gives its bytes in short pieces.
+// Gives its bytes in pieces of at most `longest`.
 class Pieces : public std::streambuf {
 public:
     Pieces(std::string_view bytes, std::size_t longest) : rest(bytes), piece(longest) {}

@@ -1,5 +1,5 @@
-// The control layer: which events come, in which order, and what a closed control refuses; and the
-// catalogue.
+// The controls: which events come, in which order, and what a disabled or hidden control refuses;
+// and the catalogue.
 #include <cstdint>
 #include <set>
 
@@ -67,7 +67,7 @@ TEST_F(ControlsTest, AUserActionStoresThenCallsTheObserverThenRaisesItsEvent) {
             each->SetVisible(!hidden);
         }
         for (const auto& [actions, logged] : rows) {
-            EXPECT_EQ(After(actions), "") << actions << " at closed controls";
+            EXPECT_EQ(After(actions), "") << actions << " on disabled or hidden controls";
         }
     }
     EXPECT_EQ(form.ActiveControl(), &box);
@@ -77,7 +77,7 @@ TEST_F(ControlsTest, AUserActionStoresThenCallsTheObserverThenRaisesItsEvent) {
     EXPECT_EQ(form.cmbFlow.Text() + log, "y");
 }
 
-TEST_F(ControlsTest, CodeSetsClosedControlsAndASetterThatChangesNothingRaisesNothing) {
+TEST_F(ControlsTest, CodeSetsDisabledControlsAndASetterThatChangesNothingRaisesNoEvent) {
     for (Control* each : form.Controls()) {
         each->SetEnabled(false);
     }
@@ -129,7 +129,7 @@ TEST_F(ControlsTest, AHandlerThatRewritesItsBoxReadsTheNewTextAndTheSelectionSta
     EXPECT_TRUE(box.SelStart() == 1 && box.SelLength() == 0);
 }
 
-// 64 bits of FNV-1a.
+// The 64-bit FNV-1a hash.
 std::uint64_t Digest(const std::string& text) {
     std::uint64_t digest = 0xCBF29CE484222325;
     for (const char c : text) {
@@ -138,7 +138,7 @@ std::uint64_t Digest(const std::string& text) {
     return digest;
 }
 
-TEST_F(FormTest, ThePlacesOfTheControlsFitTogether) {
+TEST_F(FormTest, TabsAreUniqueAndControlsFitIntoTheirFramesAndOnlyFourPairsOverlap) {
     std::set<int> tabs;
     std::set<std::string> overlaps;
     for (const CatalogueRow& row : Catalogue()) {
@@ -167,8 +167,8 @@ TEST_F(FormTest, ThePlacesOfTheControlsFitTogether) {
                                                "cmbFlow txtLava", "optLarge optNormal"}));
 }
 
-// A change of a text or a place must be meant; then the digest that the failure shows belongs here.
-TEST_F(FormTest, NoTextAndNoPlaceHasChangedUnnoticed) {
+// If a text or a place is changed on purpose, the digest that the failure shows belongs here.
+TEST_F(FormTest, TextsAndPlacesOfControlsAreUnchanged) {
     std::ostringstream all;
     for (const CatalogueRow& row : Catalogue()) {
         all << row.name << '|' << row.frame << '|' << row.caption << '|'

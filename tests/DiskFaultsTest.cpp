@@ -11,7 +11,7 @@
 
 namespace {
 
-bool closingFails = false;  // the next time
+bool closingFails = false;  // whether the next fclose fails
 
 }  // namespace
 
@@ -23,8 +23,8 @@ extern "C" int fclose(FILE* file) {
 
 namespace {
 
-// A file that gives five bytes a call. One call fails, in odd ways all later ones too: by its
-// result or, from way 2 on, by an exception.
+// A file that gives five bytes a call. Call `failing` fails, and in ways 1 and 3 all later calls
+// too: in ways 0 and 1 by the result, in ways 2 and 3 by an exception.
 struct Disk : std::streambuf {
     std::string bytes;
     std::size_t failing, way, calls = 0, at = 0;
@@ -72,15 +72,15 @@ protected:
         file >> word >> bytes;
         return bytes;
     }
-    // Whether a button does its work with a file of that name: then Save is disabled.
-    bool Works(CommandButton& button, const std::string& path) {
+    // Whether Open or Save succeeds with a file of that name: then Save is disabled.
+    bool Succeeds(CommandButton& button, const std::string& path) {
         form.txtWind.PressKey("10");
         platform.answers = {path};
         button.Press();
         return !form.Command2.Enabled();
     }
-    bool Opens(const std::string& path) { return Works(form.cmdOpen, path); }
-    bool Saves(const std::string& path) { return Works(form.Command2, path); }
+    bool Opens(const std::string& path) { return Succeeds(form.cmdOpen, path); }
+    bool Saves(const std::string& path) { return Succeeds(form.Command2, path); }
     bool SavesWithin(decltype(RLIMIT_FSIZE) resource, rlim_t amount) {
         rlimit before{};
         getrlimit(resource, &before);
@@ -101,7 +101,8 @@ TEST_F(DiskFaultsTest, AFailedCallEndsAReadOrWriteAndWhatCameBeforeIsKept) {
         const std::size_t way = n % 4, call = n / 4;
         *broken = *cut = EditorState{};
         Disk disk(whole, call, way), full("", call % good.calls, way);
-        const std::string start = whole.substr(0, 5 * call);  // an exception loses the item
+        const std::string start = whole.substr(0, 5 * call);
+        // An exception loses the unfinished item.
         std::stringbuf end(way > 1 ? start.substr(0, start.find_last_of(",\n") + 1) : start);
         EXPECT_FALSE(ReadRecord(disk, *broken) || ReadRecord(end, *cut)) << way << ' ' << call;
         EXPECT_TRUE(broken->LoadedPhases == cut->LoadedPhases) << way << ' ' << call;
@@ -169,7 +170,7 @@ TEST_F(DiskFaultsTest, AFileIsReadNoFurtherThanItsRecord) {
         rusage before{}, after{};
         getrusage(RUSAGE_SELF, &before);
         const long read = BytesRead();
-        EXPECT_EQ(Opens(path), path == test);  // it begins with a record
+        EXPECT_EQ(Opens(path), path == test);  // only this one begins with a record
         EXPECT_LT(BytesRead() - read, 128 * 1024);
         getrusage(RUSAGE_SELF, &after);
         EXPECT_LT(after.ru_maxrss - before.ru_maxrss, 64 * 1024);

@@ -1,5 +1,5 @@
-// Random user actions at the form. The environment can ask for another seed (TEPHREX_MONKEY_SEED)
-// and number of actions (TEPHREX_MONKEY_ACTS); the same seed repeats a failure.
+// Random user actions on the form. The environment variables TEPHREX_MONKEY_SEED and
+// TEPHREX_MONKEY_ACTS set the seed and the number of actions; the same seed repeats a failure.
 #include <random>
 
 #include "RandomUser.h"

@@ -5,7 +5,7 @@
 
 namespace {
 
-/// A text with many zeros inside.
+/// The text, `count` zeros and the rest.
 std::string Zeros(std::string text, std::size_t count, const std::string& rest) {
     return text.append(count, '0').append(rest);
 }

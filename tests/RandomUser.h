@@ -1,8 +1,7 @@
-// Random user actions at the form, and what must hold after each. They follow from a source of
-// choices: a seeded generator, or the bytes of a fuzzer.
+// Random user actions on the form, and what must hold after each. The choices come from a seeded
+// generator or from the bytes of a fuzzer.
 #pragma once
 
-#include <array>
 #include <cstdlib>
 #include <functional>
 #include <string>
@@ -16,7 +15,7 @@
 /// A whole number from 0 to `below` - 1.
 using Choices = std::function<std::size_t(std::size_t below)>;
 
-/// The number in a variable of the environment, for a monkey's seed or the number of its actions.
+/// The number in an environment variable, or the fallback if it is not set.
 inline unsigned long FromEnvironment(const char* name, unsigned long fallback) {
     const char* const text = std::getenv(name);
     return text == nullptr ? fallback : std::strtoul(text, nullptr, 10);
@@ -36,12 +35,12 @@ public:
         }
     }
 
-    /// Performs one action and returns it in the words of a story.
+    /// Performs one action and returns it as a story writes it.
     std::string Act() {
         platform.messages.clear();
         platform.answers.clear();
         Control& control = *controls[choose(controls.size())];
-        const auto [verb, text] = Idea(control);
+        const auto [verb, text] = ActionFor(control);
         const Control* const displays[] = {&form.cmbPhase, &form.cmbType, &form.cmdAdd,
                                            &form.cmdDelete, &form.cmdReset};
         displayed =
@@ -54,7 +53,7 @@ public:
         return verb + ' ' + control.Name() + ' ' + text;
     }
 
-    /// Prepares the answer of the next dialog, perhaps with a damaged file.
+    /// Prepares the answer to the next dialog, perhaps a damaged file.
     void PrepareAnswer() {
         if (choose(4) == 0) {
             Damage();
@@ -64,7 +63,7 @@ public:
         }
     }
 
-    /// What does not hold now; empty if all does.
+    /// Which invariant does not hold now; empty if all do.
     std::string Broken() {
         const int count = form.EditPhaseCount;
         if (count < 0 || count > MaxPhases || form.LoadedPhaseCount < 0 ||
@@ -89,8 +88,8 @@ private:
         return std::string(texts[choose(std::size(texts))]);
     }
 
-    // A verb for the control and a text for it. Also prepares the answer to what a button asks.
-    std::pair<std::string, std::string> Idea(const Control& control) {
+    // A random verb and text for the control. Also prepares the answer to the dialog of a button.
+    std::pair<std::string, std::string> ActionFor(const Control& control) {
         if (choose(16) == 0) {
             return {choose(2) == 0 ? "mouse" : "focus", ""};
         }
@@ -113,7 +112,7 @@ private:
         return {button ? "press" : "mouse", ""};
     }
 
-    // Makes a copy of a file with one byte changed, or cut off at a byte.
+    // Writes broken.rec: a.rec with one byte changed, or cut off there.
     void Damage() {
         std::string bytes = ReadBytes(folder / "a.rec");
         if (!bytes.empty()) {
@@ -166,6 +165,6 @@ private:
     const TempFolder& folder;
     Choices choose;
     std::vector<Control*> controls;
-    bool displayed = false;
-    bool readDataFailed = false;
+    bool displayed = false;       // whether the last action displayed a phase
+    bool readDataFailed = false;  // then CurPhase can be beyond the count
 };

@@ -12,7 +12,8 @@ const std::string Sample = Replaced(
     "\n\"Record Phase: \",2\n12.5,3,1,10\n2000,0,0,0\n0,0,2,0\n0,0,0,0,0\n5,5,20,5,5,5\n0,0,0,0\n"
     "300\n1200\n", "\n", "\r\n");
 
-// A different number in every field; then Singles of every form, and bursts that are not flows.
+// A different number in every field of phase 1; in phase 2 Singles in every notation, and bursts
+// that are not flows.
 const std::string Distinct = Replaced(
     "\"Stratigraphic file:\",\"C\"\n\"Recorded phases\",2,-7\n"
     "\n\"Record Phase: \",1\n1.5,4,3.5,-4\n5.25,6,7,8\n9,10,1,17\n12,13,14,15,16\n"
@@ -58,7 +59,7 @@ TEST_F(RecordTest, AcceptedVariantsAreWrittenInStandardForm) {
         EXPECT_TRUE(Read(Replaced(Sample, from, to)));
         EXPECT_EQ(Written(), Sample) << from << " -> " << to.substr(0, 20);
     }
-    ASSERT_TRUE(Read(Replaced(Sample, "20\r\n\r\n", "20\r\n")));  // every item moves by a place
+    ASSERT_TRUE(Read(Replaced(Sample, "20\r\n\r\n", "20\r\n")));  // each later item moves up by one
     EXPECT_TRUE(LoadedPhases[1].wind == 2000 && LoadedPhases[2].rightAngle == 300);
 }
 
@@ -86,7 +87,7 @@ TEST_F(RecordTest, AHeaderIsKeptAsFarAsItWasRead) {
     }
 }
 
-TEST_F(RecordTest, AnItemThatIsNoNumberIsZeroAndOneTooLargeEndsTheRead) {
+TEST_F(RecordTest, AnItemThatIsNotANumberIsZeroAndOneTooLargeEndsTheRead) {
     constexpr Integer kept = 77;
     const std::string zeros(400, '0');
     // clang-format off

@@ -1,5 +1,5 @@
 // What the stories leave out: steps of the start that fail, states that no user action leads to,
-// what dialogs and help look like, paths of any bytes.
+// the properties of dialogs and help, paths of any bytes.
 #include "TestForm.h"
 #include "editing/FieldHandlers.h"
 #include "record/WorkingCopy.h"
@@ -10,8 +10,7 @@ namespace {
 
 class FailingPlatform : public TestPlatform {
 public:
-    explicit FailingPlatform(const RecordEdit& theForm, Form& same)
-        : TestPlatform(same), form(theForm) {}
+    explicit FailingPlatform(RecordEdit& theForm) : TestPlatform(theForm), form(theForm) {}
     using TestPlatform::Show;
     Extent ScreenSize() override { throw std::runtime_error("no screen"); }
     void Show() override { throw std::runtime_error("no window"); }
@@ -24,7 +23,7 @@ private:
     const RecordEdit& form;
 };
 
-TEST_F(FormTest, EachControlForTheUserHasItsHandlers) {
+TEST_F(FormTest, EachControlThatTakesUserActionsHasItsHandlers) {
     for (const Control* control : form.Controls()) {
         std::vector<const Event*> events;
         if (const auto* box = dynamic_cast<const TextBox*>(control)) {
@@ -47,10 +46,10 @@ TEST_F(FormTest, EachControlForTheUserHasItsHandlers) {
 TEST_F(FormTest, AFailedStepOfTheStartIsSkipped) {
     EXPECT_EQ(std::pair(platform.left, platform.top), std::pair(5700, 4000));
     const auto bare = std::make_unique<RecordEdit>();
-    FailingPlatform failing(*bare, *bare);
+    FailingPlatform failing(*bare);
     bare->services = form.services;
     bare->services.window = &failing;
-    bare->services.createPathHelper = {};  // throws when it is called
+    bare->services.createPathHelper = {};  // a call of which throws
     bare->services.createSettingsStore = [] { return std::make_unique<TestSettings>("/data"); };
     Form_Load(*bare);
     EXPECT_EQ(failing.seen, "(New)0");  // visible before its lists are filled
@@ -66,7 +65,7 @@ TEST_F(FormTest, AFailedStepOfTheStartIsSkipped) {
     EXPECT_EQ(bare->labRecfile.Caption(), "a.rec");
 }
 
-TEST_F(FormTest, AnEntryThatIsNoPhaseShowsTheCurrentPhaseAgain) {
+TEST_F(FormTest, AnEntryThatIsNotAPhaseShowsTheCurrentPhaseAgain) {
     Open({GoodPhase(EruptionType::Plinian), GoodPhase(EruptionType::Collapse)});
     Pick(form.cmbPhase, "Phase 2");
     for (const char* entry : {"Phase 02", "Phase 3", "Phase 2 ", "Phase +1", "Phase", "phase 1"}) {
@@ -76,7 +75,7 @@ TEST_F(FormTest, AnEntryThatIsNoPhaseShowsTheCurrentPhaseAgain) {
     }
 }
 
-TEST_F(FormTest, ADisplayOutsideTheTablesEndsWithAMessage) {
+TEST_F(FormTest, ShowingAPhaseOutsideTheTableReportsAnError) {
     Open({GoodPhase(EruptionType::Plinian)});
     form.CurPhase = 501;
     Pick(form.cmbPhase, "Phase 1");
@@ -159,7 +158,7 @@ TEST_F(FormTest, ShowingEachPhaseOfTheDemonstrationRecordChangesNoByteOfIt) {
     EXPECT_EQ(ReadBytes(saved), ReadBytes(TEPHREX_DATA "/TephrexDemo.rec"));
 }
 
-TEST_F(FormTest, SelectionStaysInABoxWhoseFocusGoesToAButton) {
+TEST_F(FormTest, ABoxKeepsItsSelectionWhenAButtonTakesTheFocus) {
     form.txtLoc.TakeFocus();
     form.txtLoc.Select(1, 1);
     form.cmdHelp.TakeFocus();
@@ -171,7 +170,7 @@ TEST(FlowDurationsTest, EachRunStartsWithTheSameDraw) {
     EXPECT_EQ(NewRandomSource()(), 13668795 / 16777216.0F);
 }
 
-TEST(ShortenPathTest, CountsCodePointsAndBytesOutsideThem) {
+TEST(ShortenPathTest, CountsCodePointsAndEachByteThatIsNotUtf8) {
     // clang-format off
     const std::pair<std::string, std::size_t> rows[] = {
         {"a", 1}, {"\xC3\xA9", 1}, {"\xE2\x82\xAC", 1}, {"\xF0\x9F\x98\x80", 1}, {"\xFF", 1},

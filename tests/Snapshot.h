@@ -1,7 +1,8 @@
-// All that can be seen of a form at one moment, and in words what has changed since another.
+// What a form shows and holds at one moment, and the changes since another as stories write them.
 #pragma once
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <set>
 
@@ -10,6 +11,7 @@
 
 using Items = std::vector<std::string>;
 
+/// The shortest text of a Single.
 inline std::string NumberText(double number) {
     std::array<char, 64> text{};
     char* const begin = text.data();
@@ -50,8 +52,8 @@ public:
         }
     }
 
-    /// What is not as it was before, in lines of items: controls turned on and off, then other
-    /// facts, then each phase.
+    /// What has changed, in lines of items: first controls turned on and off, then other facts,
+    /// then each phase.
     std::vector<Items> ChangesSince(const Snapshot& before) const {
         std::vector<Items> lines{Turned(before), {}};
         const std::set<std::pair<std::string, std::string>> old(before.facts.begin(),
@@ -73,7 +75,7 @@ public:
         return lines;
     }
 
-    /// A text on one line, without the folder of the test.
+    /// A text as stories write it: on one line, without the folder of the test.
     static std::string Shown(const std::string& text, const std::string& folder) {
         return text.empty()     ? "\"\""
                : text == folder ? "the folder"
@@ -107,7 +109,7 @@ private:
         Add(name + " shown", control.Visible() ? "yes" : "no");
     }
 
-    // The first and the last of many numbered entries.
+    // Of more than two numbered entries the first and the last.
     static std::string EntriesOf(const ComboBox& list) {
         const Items& entries = list.Entries();
         const bool numbered = entries.size() > 2 && entries[0].find('1') != std::string::npos;
@@ -145,7 +147,7 @@ private:
     static Items OfPhase(const std::string& head, const PhaseRecord& before, const PhaseRecord& now,
                          const FlowRow& flowsBefore, const FlowRow& flows) {
         if (before == now && flowsBefore == flows) {
-            return {};  // as nearly all are
+            return {};  // as for nearly every phase
         }
         Items items{head};
         if (before != now && now == PhaseRecord{}) {
@@ -172,7 +174,7 @@ private:
         return items;
     }
 
-    std::vector<std::pair<std::string, std::string>> facts;  // by name; of a file its bytes
+    std::vector<std::pair<std::string, std::string>> facts;  // name and value; of a file its bytes
     std::vector<std::pair<std::string, bool>> enabled;
     std::unique_ptr<EditorState> state;
     std::string folder;

@@ -1,7 +1,7 @@
-// Runs the stories in tests/stories at the form. A story is a text with a step a line, such as a
-// user action, and after each action all that it changes; README.md there explains the words. What
-// really changes is written in the same words and compared with the story. It also goes into the
-// folder TEPHREX_AS_HAPPENED if the environment names one.
+// Runs the stories in tests/stories on the form. A story has one step a line, such as a user
+// action, and after each action all its changes; README.md there explains the words. What really
+// changes is written in the same words and compared with the story. The environment variable
+// TEPHREX_AS_HAPPENED can name a folder to which it is written too.
 #include <cctype>
 #include <cstdlib>
 
@@ -28,7 +28,7 @@ public:
 
     static bool IsType(const std::string& word) { return Types.contains(word); }
 
-    /// One more phase, a type and fields of it; or without a type further fields of the last one.
+    /// Adds a phase: its type, then its fields. Without a type, sets more fields of the last phase.
     void Add(const std::string& words) {
         const auto [type, fields] = SplitOff(words);
         if (!IsType(type)) {
@@ -41,7 +41,7 @@ public:
     }
 
 private:
-    // Names of fields of the last phase and of settings of the record, each before its values.
+    // Fields of the last phase and settings of the record: each name, then its values.
     void Set(const std::string& words) {
         std::string name;
         for (const std::string& word : WordsOf(words)) {
@@ -87,7 +87,7 @@ public:
         platform.whileMessageShows = [this] { NoteMessage(); };
         form.random = [this] { return Draw(); };
         for (const NamedText& tip : ToolTips()) {
-            form.Find(tip.control)->SetToolTipText(tip.text);  // which ControlsTest checks
+            form.Find(tip.control)->SetToolTipText(tip.text);  // so that `start` lists none
         }
         before = Look();
         Load();
@@ -101,7 +101,7 @@ public:
         WriteBytes(folder / name, bytes);
         before = Look();
     }
-    void SetDraws(const Items& numbers) {
+    void AddDraws(const Items& numbers) {
         for (const std::string& number : numbers) {
             draws.push_back(std::stof(number));
         }
@@ -129,7 +129,7 @@ public:
         platform.answers.clear();
         return Changes();
     }
-    /// All that is new since this was last asked, in lines of items.
+    /// All changes since the last call, in lines of items.
     std::vector<Items> Changes() {
         NoteDialogs();
         std::vector<Items> lines = std::exchange(noted, {});
@@ -151,7 +151,7 @@ public:
         }
         const std::string text = platform.messages.back().text;
         const bool flow = text.find(" Flow ") != std::string::npos;
-        return '"' + Snapshot::Shown(text, "Phase 2 ") + '"' +
+        return '"' + Snapshot::Shown(Replaced(text, "Phase 2 ", ""), folder / "") + '"' +
                (flow ? " at " + form.cmbFlow.Text() : "");
     }
 
@@ -161,7 +161,7 @@ private:
             noted.push_back({"asks " + Snapshot::Shown(platform.asked[dialogs], folder / "")});
         }
     }
-    // With the phase on show while the message is: the form moves only after it.
+    // With the phase shown at that moment: the form moves only after the message.
     void NoteMessage() {
         static const std::map<MessageIcon, std::string> verbs{{MessageIcon::Information, "reports"},
                                                               {MessageIcon::Exclamation, "warns"},
@@ -175,9 +175,7 @@ private:
     }
     Single Draw() {
         ++drawn;
-        const Single next = draws.empty() ? 0.5F : draws.front();
-        draws.erase(draws.begin(), draws.begin() + (draws.empty() ? 0 : 1));
-        return next;
+        return TakeFirst(draws, 0.5F);
     }
     std::unique_ptr<Snapshot> Look() const { return std::make_unique<Snapshot>(form, folder / ""); }
     void TestBody() override {}
@@ -192,8 +190,8 @@ private:
 /// What a step changes, in lines of items; nothing for a step that only prepares others.
 using Outcome = std::optional<std::vector<Items>>;
 
-/// Takes the steps of a story in turn: each by the method of its verb or, without one, as a user
-/// action.
+/// Runs the steps of a story in turn: each by the method for its verb or, if there is none, as a
+/// user action.
 class Story {
 public:
     Outcome Take(const std::string& step) {
@@ -238,20 +236,20 @@ private:
         return {};
     }
     Outcome Draws(const std::string& numbers) {
-        scene->SetDraws(WordsOf(numbers));
+        scene->AddDraws(WordsOf(numbers));
         return {};
     }
     Outcome Quietly(const std::string& step) {
         Take(step);
         return {};
     }
-    // After a phase without a type, which disables all that a type enables.
+    // Shows a phase after one without a type, which disables all that a type enables.
     Outcome Show(const std::string& phase) {
         Given("None");
         And(phase);
         return scene->Use(UserAction("pick cmbPhase Phase 2"));
     }
-    // A record for each type. Its first phase is another one: showing a phase rounds its numbers.
+    // A record for each type. The judged phase is the second: showing a phase rounds its numbers.
     Outcome Judge(const std::string& words) {
         judged.clear();
         auto [type, rest] = SplitOff(words);
@@ -283,7 +281,7 @@ private:
 
     std::unique_ptr<Scene> scene = std::make_unique<Scene>();
     DescribedRecord described;
-    std::string file;  // of the described record; empty if it is open
+    std::string file;  // that gets the described record; empty if the form opens it
     std::vector<DescribedRecord> judged;
 };
 
@@ -301,7 +299,7 @@ std::string Wrapped(std::string line) {
     return text + line;
 }
 
-// A step and what it changes: on one line if there is room, otherwise on lines of their own.
+// A step and what it changes: on one line if there is room, otherwise with the changes below.
 std::string LaidOut(const std::string& step, const std::vector<Items>& outcome) {
     Items lines;
     for (const Items& items : outcome) {
@@ -340,12 +338,12 @@ TEST_P(StoryTest, MatchesWhatHappens) {
     if (const char* const folder = std::getenv("TEPHREX_AS_HAPPENED")) {
         WriteBytes(folder + ('/' + GetParam()), happened);
     }
-    const auto same = std::ranges::mismatch(text, happened).in2;
+    const auto difference = std::ranges::mismatch(text, happened).in2;
     const std::size_t line =
-        happened.rfind('\n', static_cast<std::size_t>(same - happened.begin()));
+        happened.rfind('\n', static_cast<std::size_t>(difference - happened.begin()));
     EXPECT_TRUE(text == happened && !text.empty())
-        << GetParam() << ':' << std::count(happened.begin(), same, '\n') + 1 << ": what happens is"
-        << happened.substr(std::min(line, happened.size()), 800);
+        << GetParam() << ':' << std::count(happened.begin(), difference, '\n') + 1
+        << ": what happens is" << happened.substr(std::min(line, happened.size()), 800);
 }
 
 Items Stories() {

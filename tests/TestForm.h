@@ -1,5 +1,5 @@
-// A form with simple services: messages are kept, dialogs take their answers from a queue. Tests
-// act on its controls as a user does.
+// A form with services for tests, which operate its controls as a user does: messages are kept, and
+// dialogs take their answers from a queue.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -8,11 +8,12 @@
 #include <deque>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <memory>
 #include <optional>
-#include <sstream>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include "form/RecordEdit.h"
@@ -24,8 +25,18 @@ struct Message {
     std::string text;
     MessageIcon icon;
     std::string title;
-    friend bool operator==(const Message&, const Message&) = default;
 };
+
+/// Removes the first item of a queue and returns it; `none` if the queue is empty.
+template <class Item>
+Item TakeFirst(std::deque<Item>& queue, std::type_identity_t<Item> none) {
+    if (queue.empty()) {
+        return none;
+    }
+    Item first = std::move(queue.front());
+    queue.pop_front();
+    return first;
+}
 
 class TestPlatform : public MessageBoxes,
                      public FileDialogs,
@@ -37,8 +48,8 @@ public:
 
     std::vector<Message> messages;
     std::function<void()> whileMessageShows;
-    std::deque<std::optional<std::string>> answers;  // of dialogs: a name, or nothing for Cancel
-    std::vector<std::string> asked;                  // what each dialog was for, and its first name
+    std::deque<std::optional<std::string>> answers;  // of dialogs: a file name, or none for Cancel
+    std::vector<std::string> asked;  // what each dialog was for, and the name it offered
     std::vector<int> helpCommands;
     std::function<bool(const std::string& path)> flush = [](const std::string&) { return true; };
     std::string dataPath;
@@ -70,15 +81,14 @@ private:
     bool Ask(const std::string& purpose, CommonDialog& dialog) {
         const std::string& name = dialog.FileName;
         asked.push_back(purpose + (name.empty() ? "" : ", offering " + name));
-        const auto answer = answers.empty() ? std::nullopt : answers.front();
-        answers.erase(answers.begin(), answers.begin() + (answers.empty() ? 0 : 1));
+        const auto answer = TakeFirst(answers, {});
         dialog.FileName = answer.value_or(dialog.FileName);
         return answer.has_value();
     }
     Form& form;
 };
 
-/// Shows paths without a folder.
+/// Shows paths without the folder they start with.
 class TestPathHelper : public PathHelper {
 public:
     explicit TestPathHelper(std::string itsFolder) : folder(std::move(itsFolder)) {}
@@ -135,6 +145,7 @@ inline std::string Replaced(std::string text, const std::string& from, const std
     return text;
 }
 
+/// The position of an entry in a list; the test fails if there is none.
 inline std::size_t PositionOf(const ComboBox& list, const std::string& text) {
     const auto entry = std::find(list.Entries().begin(), list.Entries().end(), text);
     EXPECT_TRUE(entry != list.Entries().end()) << "no entry " << text;
@@ -153,7 +164,7 @@ protected:
     RecordEdit& form = *owner;
     TestPlatform platform{form};
     TempFolder folder;
-    std::string leftOut;  // of shown paths
+    std::string leftOut;  // a folder that shown paths leave out
 
     /// Loads the form as the program does.
     void Load() {
@@ -190,7 +201,7 @@ protected:
     }
 };
 
-/// A phase that passes every check at normal scale; of a type with flows it has none.
+/// A phase that passes every check at normal scale; a type with flows also needs their durations.
 inline PhaseRecord GoodPhase(Integer eruptionType) {
     PhaseRecord phase;
     phase.eruptionType = eruptionType;

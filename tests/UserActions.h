@@ -1,7 +1,8 @@
-// User actions in words: a verb, the name of a control, and a text for it.
+// User actions as text: a verb, the name of a control, and what is typed or picked there.
 #pragma once
 
 #include <map>
+#include <sstream>
 
 #include "TestForm.h"
 
@@ -12,11 +13,11 @@ struct UserAction {
         std::istringstream words(line);
         words >> verb >> name;
         std::getline(words >> std::ws, text);
-        text = text == "\"\"" ? "" : text;  // which stories write for no text
+        text = text == "\"\"" ? "" : text;  // how stories write an empty text
     }
 };
 
-/// A click on a button of any kind.
+/// Clicks a button, check box or option; throws at another control.
 inline void Press(Control& control) {
     if (auto* const check = dynamic_cast<CheckBox*>(&control)) {
         check->Toggle();
@@ -27,7 +28,7 @@ inline void Press(Control& control) {
     }
 }
 
-/// Does it as the user would; throws if the control has no such action.
+/// Performs an action as the user would; throws if there is no such verb or the control lacks it.
 inline void Perform(Control& control, const std::string& verb, const std::string& text) {
     using Action = void (*)(Control&, const std::string&);
     static const std::map<std::string, Action> actions{
