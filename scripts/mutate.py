@@ -27,14 +27,14 @@ SLOWER, SECONDS = 10, 120
 
 # The tests of each folder of src: the target to build, and the command to run in the build folder.
 # The random tests are short: a change that only they notice should count as missed.
-CORE = ("core_tests", ("env", "TEPHREX_MONKEY_ACTS=2000", "tests/core_tests",
+CORE = ("core_tests", ("env", "TEPHREX_MONKEY_ACTIONS=2000", "tests/core_tests",
                        "--gtest_fail_fast"))
-WINDOW = ("window_tests", ("env", "QT_QPA_PLATFORM=offscreen", "TEPHREX_MONKEY_ACTS=200",
+WINDOW = ("window_tests", ("env", "QT_QPA_PLATFORM=offscreen", "TEPHREX_MONKEY_ACTIONS=200",
                            "tests/window_tests", "--gtest_fail_fast"))
 DRAW = ("draw_tests", ("env", "QT_QPA_PLATFORM=offscreen", "tests/draw_tests",
                        "--gtest_fail_fast"))
 DRAWING = ("tephrexdraw", ("ctest", "-V", "-R", "^draw$"))
-WALKS = ("tephrexedit", ("ctest", "-V", "--stop-on-failure", "-R", "^(road|spoken)$"))
+WALKS = ("tephrexedit", ("ctest", "-V", "--stop-on-failure", "-R", "^(session|spoken)$"))
 EARLY = ("closed_early", ("ctest", "-V", "-R", "^closed-early$"))
 TESTS = {"": (EARLY, WALKS), "window": (WINDOW, WALKS), "check": (CORE,), "draw": (DRAW, DRAWING)}
 TESTS_OF_OTHER_FOLDERS = (CORE, WINDOW)

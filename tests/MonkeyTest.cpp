@@ -1,5 +1,5 @@
 // Random user actions on the form. The environment variables TEPHREX_MONKEY_SEED and
-// TEPHREX_MONKEY_ACTS set the seed and the number of actions; the same seed repeats a failure.
+// TEPHREX_MONKEY_ACTIONS set the seed and the number of actions; the same seed repeats a failure.
 #include <random>
 
 #include "RandomUser.h"
@@ -14,7 +14,7 @@ TEST_F(MonkeyTest, FormStaysConsistentUnderRandomActions) {
     RandomUser user(form, platform, folder,
                     [&generator](std::size_t below) { return generator() % below; });
     std::string actions;
-    for (unsigned long i = FromEnvironment("TEPHREX_MONKEY_ACTS", 20000); i > 0; --i) {
+    for (unsigned long i = FromEnvironment("TEPHREX_MONKEY_ACTIONS", 20000); i > 0; --i) {
         actions = actions.substr(actions.size() - std::min<std::size_t>(actions.size(), 2000));
         ASSERT_NO_THROW(actions += user.Act() + '\n') << "seed " << seed << ", after\n" << actions;
         ASSERT_EQ(user.Broken(), "") << "seed " << seed << ", after\n" << actions;

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# package.sh BUILD: makes the Debian package of an existing build, has it judged, installs it, opens
-# the demonstration record as a new user would, and removes it again. A tephrexedit that is
-# installed on the machine goes with it. Prints the paths of the pictures that it took.
+# package.sh BUILD: makes the Debian package of an existing build, checks it, installs it, opens the
+# demonstration record as a new user would, and removes it again. A tephrexedit that was installed
+# on the machine is removed too. Prints the paths of its screenshots.
 build=$(realpath "$1")
 . "$(dirname "$0")/../scripts/lib.sh"
 install_missing "${screen_packages[@]}" dpkg-dev file desktop-file-utils appstream lintian man-db \
@@ -15,7 +15,7 @@ give_up() {
 
 # The package and what is in it.
 rm -f "$build"/tephrexedit_*.deb
-# A user's mask must not close the folders of the machine.
+# The user's umask must not lock the folders of the package.
 (cd "$build" && umask 077 && cpack >"$home/cpack.log") || give_up "$(cat "$home/cpack.log")"
 package=$(ls "$build"/tephrexedit_*.deb)
 dpkg-deb -x "$package" "$home/tree"
@@ -33,8 +33,8 @@ done
 # Machine code can look like a misspelt word.
 lintian --display-info --fail-on error,warning,info --suppress-tags spelling-error-in-binary "$package"
 
-# Every program is hardened. None has a call whose room the compiler knows, so fortifying leaves no
-# trace in them: that every unit is built with it is looked for in the commands.
+# Every program is hardened. None has a call with a buffer size that the compiler knows, so
+# fortifying leaves no trace in them: the compile commands show that every unit is built with it.
 mapfile -t programs < <(find "$home/tree" -type f -perm /111)
 report=$(hardening-check "${programs[@]}" || true)
 echo "$report"
@@ -45,7 +45,7 @@ done
 commands=$(grep '"command".*/src/' "$build/compile_commands.json")
 ! grep -v -- '-D_FORTIFY_SOURCE=3' <<<"$commands" || give_up "not all is fortified"
 
-# names: every file that an installation could leave behind.
+# names: lists every file that an installation could leave behind.
 names() { as_root find /etc /opt /usr /var/lib/dpkg/info | sort; }
 if is_installed tephrexedit; then as_root dpkg -P tephrexedit; fi
 names >"$home/before"

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # reproducible.sh BUILD: builds once more in a folder of another name, at another time and with
-# another user's habits. What is installed and the package must be the same to the byte.
+# another user's settings. What is installed and the package must be the same to the byte.
 build=$(realpath "$1")
 . "$(dirname "$0")/../scripts/lib.sh"
 install_missing git "${build_packages[@]}" dpkg-dev file
@@ -11,7 +11,7 @@ trap 'rm -rf "$copy"' EXIT
 pack() {
     DESTDIR=$copy/$2 cmake --install "$1" --prefix /usr >/dev/null
     rm -f "$1"/*.deb
-    (cd "$1" && umask 022 && cpack >/dev/null 2>&1) # its archive keeps the mask
+    (cd "$1" && umask 022 && cpack >/dev/null 2>&1) # the archive depends on the umask
     (cd "$copy/$2" && find . -type f -perm /111 -exec sha256sum {} +)
     sha256sum "$1"/*.deb
 }
@@ -19,7 +19,7 @@ pack() {
 pack "$build" ours
 (
     umask 077
-    export LC_ALL=C TZ=Pacific/Auckland CCACHE_DISABLE=1 # or the cache would give out our build
+    export LC_ALL=C TZ=Pacific/Auckland CCACHE_DISABLE=1 # which would return our build
     mkdir "$copy/source"
     git ls-files -z | xargs -0 tar -c | tar -x -m -C "$copy/source"
     cmake -S "$copy/source" -B "$copy/elsewhere" \

@@ -1,4 +1,4 @@
-"""Works the running editor, with the demonstration record open, over the accessibility bus."""
+"""Operates the running editor, with the demonstration record open, as a screen reader does."""
 import subprocess
 import time
 
@@ -23,11 +23,11 @@ def soon(wanted, get):
         if get() == wanted:
             return
         time.sleep(0.05)
-    raise AssertionError(f"{get()!r} and not {wanted!r}")
+    raise AssertionError(f"{get()!r} instead of {wanted!r}")
 
 
 def press(keys, wanted, get):
-    """Again if nothing comes of it: on a busy machine keys get lost while a window comes up."""
+    """Sends keys again if nothing happens: on a busy machine they get lost while a window opens."""
     for tries_left in reversed(range(4)):
         subprocess.run(["xdotool", "key", "--delay", "50", *keys.split()], check=True)
         try:
@@ -51,16 +51,16 @@ def text(control):
     return box.queryText().getText(0, -1)
 
 
-def act(control, name):
+def do_action(control, name):
     actions = control.queryAction()
     actions.doAction([actions.getName(i) for i in range(actions.nActions)].index(name))
 
 
 def choose_type(entry):
-    kind = found["Eruption Type"]
-    act(kind, "ShowMenu")
-    act(next(each for each in kind[0] if each.name == entry), "Toggle")
-    soon(entry, lambda: text(kind))
+    types = found["Eruption Type"]
+    do_action(types, "ShowMenu")
+    do_action(next(each for each in types[0] if each.name == entry), "Toggle")
+    soon(entry, lambda: text(types))
 
 
 soon(1, lambda: len(list(pyatspi.Registry.getDesktop(0))))
@@ -81,15 +81,15 @@ soon(["8.50", "Faulting"], lambda: [text(found[name]) for name in ("Vent locatio
 soon([True, False, False], lambda: states(pyatspi.STATE_CHECKED, "Normal", "Small", "Caldera"))
 soon([False, False], lambda: states(pyatspi.STATE_ENABLED, "Strength", "Save"))
 
-# Dictated: the range lowers the number, and the last that is said is what is there.
+# Dictated: the range lowers the number, and the last text announced is that of the box.
 found["Fault magnitude"].queryEditableText().setTextContents("99")
 soon(("Fault magnitude", "20"), lambda: said and said[-1])
 soon([True], lambda: states(pyatspi.STATE_ENABLED, "Save"))
 choose_type("Plinian")
 soon([True, True], lambda: states(pyatspi.STATE_ENABLED, "Strength", "Save"))
-act(found["Caldera"], "Toggle")
+do_action(found["Caldera"], "Toggle")
 soon([True], lambda: states(pyatspi.STATE_CHECKED, "Caldera"))
-act(strength, "SetFocus")
+do_action(strength, "SetFocus")
 soon([True], lambda: states(pyatspi.STATE_FOCUSED, "Strength"))
 subprocess.run(["xdotool", "type", "--delay", "20", "1.25"], check=True)
 soon("1.25", lambda: text(strength))
@@ -101,7 +101,7 @@ for news in (pyatspi.ROLE_TEXT, "Burst Frequency"), \
     soon(True, lambda: news in heard)
 press("Return", [True], lambda: states(pyatspi.STATE_FOCUSED, "Strength"))
 
-# The help is a document in a window of its own; what is found in it is on the caret's line.
+# The help is a document in a separate window; the text found is on the caret's line.
 app = pyatspi.Registry.getDesktop(0)[0]
 press("F1", [(pyatspi.ROLE_FRAME, "Edit Tephrex Record"), (pyatspi.ROLE_FRAME, "TephrexEdit Help")],
       lambda: sorted((each.getRole(), each.name) for each in app))

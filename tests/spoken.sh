@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# spoken.sh PROGRAM: the editor as those hear it who do not see it. A reader of the screen of our own
-# works the running program on a private bus.
+# spoken.sh PROGRAM: the editor for users who hear it. spoken.py operates the running program as a
+# screen reader does, on a private bus.
 . "$(dirname "$0")/../scripts/lib.sh"
 
 install_missing "${screen_packages[@]}" at-spi2-core dbus-daemon python3-pyatspi
@@ -14,6 +14,6 @@ export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
 start_editor "$1" "$PWD/data/"
 press Open
 answer_dialog "Open Record File" "$PWD/data/TephrexDemo.rec"
-/usr/bin/python3 tests/spoken.py || fail "not all is heard"
+/usr/bin/python3 tests/spoken.py || fail "the screen reader did not find all it needs"
 await_gone "TephrexEdit Help"
 close_editor

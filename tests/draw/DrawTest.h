@@ -16,7 +16,7 @@ struct TestRecord {
     explicit TestRecord(Integer scale = ScaleCode::Normal) { state->RecordScale = scale; }
 
     /// Adds a phase of this type in the middle of the map, with flow durations from 21 upwards.
-    /// Save would accept it, except a collapse, whose scarp is still to be set.
+    /// Save would accept it, except a collapse, whose scarp must be set first.
     PhaseRecord& Add(Integer type);
 };
 

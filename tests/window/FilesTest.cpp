@@ -7,11 +7,11 @@
 class FilesTest : public WindowTest {
 protected:
     FileChooser chooser{window};
-    std::string question;  // that the last dialog asked or refused with
+    std::string question;  // or refusal of the last dialog; empty if there was none
 
-    /// What a dialog chooses that comes up with a name, gets another one typed or pasted over it if
-    /// there is one, and Enter; a question is answered with Yes. Nothing, if it refuses. Before
-    /// what is typed it has refused another name.
+    /// The name that a dialog chooses; empty if it refuses. It opens with the offered name, which
+    /// the typed one replaces, if any, after the dialog has refused another. A question is answered
+    /// with Yes.
     std::string Choose(bool opens, const std::string& offered, const std::string& typed = {}) {
         QTimer::singleShot(0, &window, [&] {
             auto* const dialog = QApplication::activeModalWidget();
@@ -50,7 +50,7 @@ private:
     }
 };
 
-TEST_F(FilesTest, AnyNameIsShownInOneLineAndChosenToTheByte) {
+TEST_F(FilesTest, AnyNameIsShownOnOneLineAndChosenByteForByte) {
     form.CD1.InitDir = folder / "";
     form.CD1.DefaultExt = "rec";
     std::filesystem::create_directories(folder / "b.rec");
@@ -79,7 +79,7 @@ TEST_F(FilesTest, AnyNameIsShownInOneLineAndChosenToTheByte) {
     }
 }
 
-TEST_F(FilesTest, ANameGetsItsExtensionAndNoFileIsReplacedUnasked) {
+TEST_F(FilesTest, ANameGetsItsExtensionAndNoFileIsReplacedWithoutAQuestion) {
     const std::string deep = folder / (std::string(150, 'a') + "/" + std::string(150, 'b') + "/");
     std::filesystem::create_directories(deep);
     WriteBytes(folder / "there.rec", "");
@@ -102,7 +102,7 @@ TEST_F(FilesTest, ANameGetsItsExtensionAndNoFileIsReplacedUnasked) {
         {"", "./b/../a.txt", folder / "a.txt"},
         {"", std::string(256, 'n'), ""},  // refused
         {deep + "a name é.rec", "", deep + "a name é.rec"},
-        {"", "next", deep + "next.rec"},  // where the user last was
+        {"", "next", deep + "next.rec"},  // in the folder of the last choice
     };
     for (const auto& [offered, typed, chosen, opens] : rows) {
         EXPECT_EQ(Choose(opens, offered, typed), chosen) << typed;
@@ -114,7 +114,7 @@ TEST_F(FilesTest, ANameGetsItsExtensionAndNoFileIsReplacedUnasked) {
     }
 }
 
-TEST_F(FilesTest, AQuestionOfTheToolkitShowsANameInOneLine) {
+TEST_F(FilesTest, AQuestionOfTheToolkitShowsANameOnOneLine) {
     for (const char* const asked : {"'%1' is write protected.\nDo you want to delete it anyway?",
                                     "Are you sure you want to delete '%1'?", "What is '%1'?"}) {
         QLabel label(QString(asked).arg("a\nb"), &window);
@@ -134,7 +134,8 @@ TEST_F(FilesTest, AReferenceKeepsItsControlCharactersWhileItIsEdited) {
     box->setFocus();
     const QString shown = box->text();
     EXPECT_EQ(shown, Find<QLabel>("labRecfile")->text());
-    EXPECT_FALSE(shown.contains('\n') || shown.contains(QChar::LineSeparator)) << "cuts it off";
+    EXPECT_FALSE(shown.contains('\n') || shown.contains(QChar::LineSeparator))
+        << "would cut it off";
     form.labRecfile.SetCaption(std::string(150, 'a') + reference);
     window.RunPendingEvents();
     EXPECT_TRUE(Find<QLabel>("labRecfile")->text().endsWith(shown)) << "cut off at the beginning";
@@ -158,7 +159,7 @@ TEST(NameInMessageTest, ALongNameMayBreakBetweenItsLetters) {
               name(60) + u'\u0301' + u'\u200B' + name(60) + u'\u200B' + name(1));
 }
 
-TEST_F(FilesTest, ADialogShowsItsListWholeAndEntersTheFolderSelectedInIt) {
+TEST_F(FilesTest, ADialogShowsItsWholeListAndEntersASelectedFolder) {
     std::filesystem::create_directories(folder / "<b>fol\nder");
     WriteBytes(folder / (std::string(30, 'n') + ".rec"), "");
     QTimer::singleShot(0, &window, [] {
@@ -211,7 +212,7 @@ TEST_F(FilesTest, ADialogShowsItsListWholeAndEntersTheFolderSelectedInIt) {
     EXPECT_FALSE(chooser.AskOpen(form.CD1));
 }
 
-TEST_F(FilesTest, AfterADialogAllIsAsItWasAndTheFormHasTheKeys) {
+TEST_F(FilesTest, AfterADialogFocusAndSelectionAreAsBeforeWithoutAnEvent) {
     auto* const box = Find<QLineEdit>("txtWind");
     WriteBytes(folder / "there.rec", "");
     box->setFocus();
@@ -228,17 +229,17 @@ TEST_F(FilesTest, AfterADialogAllIsAsItWasAndTheFormHasTheKeys) {
     }
 }
 
-// Runs as a user to whom a folder can be closed.
-class NoRoot {
+// Runs as a user other than root, who may write in any folder.
+class NotRoot {
 public:
-    NoRoot() { EXPECT_EQ(was == 0 ? setresuid(65534, 65534, 0) : 0, 0); }
-    ~NoRoot() { EXPECT_EQ(setresuid(was, was, was), 0); }
+    NotRoot() { EXPECT_EQ(was == 0 ? setresuid(65534, 65534, 0) : 0, 0); }
+    ~NotRoot() { EXPECT_EQ(setresuid(was, was, was), 0); }
 
 private:
     const uid_t was = geteuid();
 };
 
-TEST_F(FilesTest, ADialogComesUpInTheFirstFolderThatServes) {
+TEST_F(FilesTest, ADialogOpensInTheFirstUsableFolder) {
     namespace fs = std::filesystem;
     const std::string closed = folder / "closed", home = folder / "home";
     const std::string documents = home + "/Documents";
@@ -258,10 +259,10 @@ TEST_F(FilesTest, ADialogComesUpInTheFirstFolderThatServes) {
         {"a.rec", closed, closed, true},
         {"a.rec", closed, documents},
         {folder / "gone/a.rec", closed + "/", documents},
-        {"tests/a.rec", "tests", documents},  // never from the working directory
+        {"tests/a.rec", "tests", documents},  // never relative to the working directory
         {"", folder / "gone", documents, true},
     };
-    const NoRoot user;
+    const NotRoot user;
     for (const auto& [offered, initial, start, opens] : rows) {
         form.CD1.InitDir = initial;
         form.CD1.FileName = offered;

@@ -1,6 +1,6 @@
 #include "WindowTest.h"
 
-TEST_F(WindowTest, KeysOfTheFormDoWhatIsEnabledAndPressNoKeyInABox) {
+TEST_F(WindowTest, ShortcutsWorkOnlyWhenEnabledAndPressNoKeyInABox) {
     Open({GoodPhase(EruptionType::Strombolian), GoodPhase(EruptionType::Plinian)});
     struct Row {
         QKeyCombination key;

@@ -2,7 +2,7 @@
 
 #include "WindowTest.h"
 
-TEST_F(WindowTest, AScreenReaderHearsWhereAControlBelongsAndWhatItIsFor) {
+TEST_F(WindowTest, AScreenReaderFindsTheLabelAndTheDescriptionOfAControl) {
     struct Row {
         const char* control;
         QString label, description;
@@ -22,10 +22,10 @@ TEST_F(WindowTest, AScreenReaderHearsWhereAControlBelongsAndWhatItIsFor) {
         EXPECT_EQ(labels.front().first->text(QAccessible::Name), label);
         EXPECT_EQ(heard->text(QAccessible::Description), description);
     }
-    EXPECT_EQ(Find("txtLava")->toolTip(), "") << "heard, and not shown";
+    EXPECT_EQ(Find("txtLava")->toolTip(), "") << "for screen readers only";
 }
 
-TEST_F(WindowTest, AListAndAnOptionAreWorkedByTheirActions) {
+TEST_F(WindowTest, AListAndAnOptionObeyTheirAccessibleActions) {
     auto& list = *Find<QComboBox>("cmbType");
     auto* const heard = QAccessible::queryAccessibleInterface(&list);
     QObject* const parts[]{list.view(), list.lineEdit()};
@@ -66,7 +66,7 @@ TEST_F(WindowTest, AListAndAnOptionAreWorkedByTheirActions) {
     EXPECT_EQ(form.optSmall.Value(), true);
 }
 
-TEST_F(WindowTest, ADocumentIsHeardLineByLine) {
+TEST_F(WindowTest, AScreenReaderReadsADocumentLineByLine) {
     QTextEdit page;
     page.setPlainText("ab\u2028cd\n\ne\u00A0f");
     page.resize(400, 300);

@@ -6,7 +6,7 @@
 #include "window/HelpText.h"
 #include "window/HelpWindow.h"
 
-TEST(HelpTextTest, IsATopicOfARegularFileAndNothingElse) {
+TEST(HelpTextTest, IsATopicOfARegularFileOrSaysWhyThereIsNone) {
     const TempFolder folder;
     const std::string picture = folder / "dot.png";
     QImage(1, 1, QImage::Format_RGB32).save(picture.c_str());
@@ -52,7 +52,7 @@ TEST_F(WindowTest, HelpIsReadByKeysAndKeepsItsPlaceUntilItIsClosed) {
         form.CD1.HelpCommand = command;
         viewer.ShowHelp(form.CD1);
     };
-    showOrQuit(CommonDialog::Quit);  // without a help
+    showOrQuit(CommonDialog::Quit);  // without a help window
     showOrQuit(CommonDialog::ShowTopic);
     const QWidgetList windows = QApplication::topLevelWidgets();
     const auto found = std::find_if(windows.begin(), windows.end(), [](QWidget* each) {
@@ -74,7 +74,7 @@ TEST_F(WindowTest, HelpIsReadByKeysAndKeepsItsPlaceUntilItIsClosed) {
         {Qt::Key_PageUp, 3},
         {Qt::CTRL | Qt::Key_End, 26},
         {Qt::Key_Home, 19},
-        {Qt::Key_F3, 19},  // asks for a word
+        {Qt::Key_F3, 19},  // goes to the search box
         {Qt::Key_W, 19},
         {Qt::Key_Return, 22},
         {Qt::Key_F3, 9, "Continued from the beginning"},

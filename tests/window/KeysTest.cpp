@@ -1,7 +1,7 @@
 #include "WindowTest.h"
 
-// As the toolkit delivers a key that is held: each repetition releases it and presses it again at
-// the same time, and not all of them are marked.
+// Sends a held key as the toolkit does: each repetition is a release and a press at the same time,
+// and not all of these are marked as repeated.
 void Hold(QKeyCombination key, const QString& text) {
     const auto send = [&](QEvent::Type type, ulong time, bool marked) {
         QWidget* const widget = QApplication::focusWidget();
@@ -19,7 +19,7 @@ void Hold(QKeyCombination key, const QString& text) {
     }
 }
 
-TEST_F(WindowTest, AChordTypesNothingAndAHeldKeyPressesOnce) {
+TEST_F(WindowTest, AChordTypesNothingAndAHeldKeyPressesAButtonOnce) {
     Open({GoodPhase(EruptionType::Vulcanian)});
     constexpr auto altGr = Qt::CTRL | Qt::ALT;
     constexpr auto keypad5 = QKeyCombination(Qt::ControlModifier | Qt::KeypadModifier, Qt::Key_5);
@@ -68,18 +68,18 @@ TEST_F(WindowTest, AChordTypesNothingAndAHeldKeyPressesOnce) {
         EXPECT_EQ(times, row.times) << "row " << &row - rows;
         EXPECT_EQ(box ? box->text().toStdString() : "", row.shown) << "row " << &row - rows;
     }
-    form.cmdOpen.Click = [this] { Find("txtWind")->setFocus(); };  // as a dialog takes it
+    form.cmdOpen.Click = [this] { Find("txtWind")->setFocus(); };  // as a dialog does
     Find("cmdOpen")->setFocus();
     Hold(Qt::Key_Space, " ");
     EXPECT_EQ(form.txtWind.Text(), "10");
 }
 
-TEST_F(WindowTest, AControlThatBecomesDisabledHandsTheFocusToSomethingHarmless) {
+TEST_F(WindowTest, TheFocusOfADisabledControlGoesToAHarmlessOne) {
     struct Row {
-        const char* worked;
+        const char* used;
         const char* focused;
         std::vector<Control*> disabled;
-        const char* heir;
+        const char* next;
         bool loading = false;
     };
     const Row rows[]{
@@ -96,9 +96,9 @@ TEST_F(WindowTest, AControlThatBecomesDisabledHandsTheFocusToSomethingHarmless) 
             control->SetEnabled(true);
         }
         window.RunPendingEvents();
-        if (row.worked != nullptr) {
-            row.worked == rows[1].worked ? mouseClick(Find(row.worked), Qt::LeftButton)
-                                         : keyClick(Find(row.worked), Qt::Key_5);
+        if (row.used != nullptr) {
+            row.used == rows[1].used ? mouseClick(Find(row.used), Qt::LeftButton)
+                                     : keyClick(Find(row.used), Qt::Key_5);
         }
         for (const char* passed : {"txtPart", row.focused}) {
             Find(passed)->setFocus(Qt::TabFocusReason);
@@ -108,12 +108,12 @@ TEST_F(WindowTest, AControlThatBecomesDisabledHandsTheFocusToSomethingHarmless) 
         }
         window.setUpdatesEnabled(!row.loading);
         window.RunPendingEvents();
-        EXPECT_EQ(QApplication::focusWidget()->objectName(), row.heir) << "row " << &row - rows;
-        EXPECT_EQ(form.ActiveControl()->Name(), row.heir);
+        EXPECT_EQ(QApplication::focusWidget()->objectName(), row.next) << "row " << &row - rows;
+        EXPECT_EQ(form.ActiveControl()->Name(), row.next);
     }
 }
 
-TEST_F(WindowTest, ArrowKeysChooseAScaleInARing) {
+TEST_F(WindowTest, ArrowKeysCycleThroughTheScales) {
     Find("optNormal")->setFocus();
     for (const auto& [key, chosen] :
          std::initializer_list<std::pair<Qt::Key, const char*>>{{Qt::Key_Right, "optSmall"},
@@ -129,7 +129,7 @@ TEST_F(WindowTest, ArrowKeysChooseAScaleInARing) {
     }
 }
 
-TEST_F(WindowTest, DraggedTextIsAnEditWithoutAKeyAndADraggedFileIsNone) {
+TEST_F(WindowTest, DroppedTextIsAnEditWithoutAKeyAndADroppedFileIsIgnored) {
     for (const bool file : {false, true}) {
         for (QLineEdit* box :
              {Find<QLineEdit>("txtWind"), Find<QComboBox>("cmbType")->lineEdit()}) {
@@ -149,7 +149,7 @@ TEST_F(WindowTest, DraggedTextIsAnEditWithoutAKeyAndADraggedFileIsNone) {
     }
 }
 
-TEST_F(WindowTest, ANumberTypedIsShownSavedAndReadBackInEveryLocale) {
+TEST_F(WindowTest, ATypedNumberIsShownSavedAndReadBackInEveryLocale) {
     struct Row {
         const char* locale;
         const char* typed;
@@ -180,11 +180,12 @@ TEST_F(WindowTest, ANumberTypedIsShownSavedAndReadBackInEveryLocale) {
         auto* const box = Find<QLineEdit>("txtLoc");
         box->setFocus();
         box->selectAll();
-        for (const QChar sign : QString(typed)) {
+        for (const QChar character : QString(typed)) {
             QInputMethodEvent commit;
-            commit.setCommitString(sign);
-            byMethod ? void(QApplication::sendEvent(box, &commit))
-                     : QTest::sendKeyEvent(QTest::Click, box, Qt::Key_unknown, QString(sign), {});
+            commit.setCommitString(character);
+            byMethod
+                ? void(QApplication::sendEvent(box, &commit))
+                : QTest::sendKeyEvent(QTest::Click, box, Qt::Key_unknown, QString(character), {});
         }
         EXPECT_EQ(box->text().toStdString(), shown) << locale;
         form.Command2.Press();
@@ -198,5 +199,5 @@ TEST_F(WindowTest, ANumberTypedIsShownSavedAndReadBackInEveryLocale) {
     auto* const path = Find<QLineEdit>("txtTopFile");
     mouseClick(path, Qt::LeftButton);
     keyClick(path, Qt::Key_Period);
-    EXPECT_EQ(path->text(), ".") << "no box for numbers";
+    EXPECT_EQ(path->text(), ".") << "not a box for numbers";
 }

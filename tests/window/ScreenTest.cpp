@@ -13,7 +13,7 @@ protected:
     QScreen& small = *QGuiApplication::screens().last();
     const QSize formSize = Page(window).size();
 
-    /// In a window of its own, as loading the form does it.
+    /// A new window on the screen, centred as when the form loads.
     std::unique_ptr<FormWindow> Centred(QScreen& screen) {
         auto centred = std::make_unique<FormWindow>(form);
         centred->setScreen(&screen);
@@ -30,7 +30,7 @@ protected:
         return *shown.findChild<QScrollArea*>()->widget();
     }
 
-    static bool IsInSight(const QWidget& widget) {
+    static bool IsFullyVisible(const QWidget& widget) {
         return widget.visibleRegion().boundingRect() == widget.rect();
     }
 };
@@ -50,7 +50,7 @@ TEST_F(ScreenTest, TheWindowIsCentredWithItsFrameOrFillsASmallScreen) {
     EXPECT_EQ(fitted->size(), formSize);
 }
 
-TEST_F(ScreenTest, ASmallWindowFollowsTheFocusAndItsWheelScrollsAndChangesNothing) {
+TEST_F(ScreenTest, ASmallWindowFollowsTheFocusAndTheWheelScrollsItAndChangesNothing) {
     const auto fitted = Centred(small);
     for (Control* control : form.Controls()) {
         control->SetEnabled(true);
@@ -69,12 +69,12 @@ TEST_F(ScreenTest, ASmallWindowFollowsTheFocusAndItsWheelScrollsAndChangesNothin
     first->setFocus();
     do {
         QWidget* const now = QApplication::focusWidget();
-        EXPECT_TRUE(IsInSight(*now)) << now->objectName().toStdString();
+        EXPECT_TRUE(IsFullyVisible(*now)) << now->objectName().toStdString();
         const int turn = bar.value() > 0 ? 120 : -120;
         QWheelEvent wheel({5, 5}, now->mapToGlobal(QPointF(5, 5)), {}, {0, turn}, Qt::NoButton, {},
                           Qt::NoScrollPhase, false);
         const int height = bar.value();
-        QSpontaneKeyEvent::setSpontaneous(&wheel);  // or it would not go on to the area
+        QSpontaneKeyEvent::setSpontaneous(&wheel);  // otherwise it would not reach the scroll area
         qApp->notify(now, &wheel);
         EXPECT_NE(bar.value(), height) << now->objectName().toStdString();
         keyClick(now, Qt::Key_Tab);
@@ -82,7 +82,7 @@ TEST_F(ScreenTest, ASmallWindowFollowsTheFocusAndItsWheelScrollsAndChangesNothin
     EXPECT_EQ(values(), before);
 }
 
-TEST_F(ScreenTest, InAnyImposedSizeTheFormIsInTheMiddleOrScrolls) {
+TEST_F(ScreenTest, AtAnyImposedSizeTheFormIsCentredOrScrolls) {
     const auto resize = [this](int width, int height) {
         return [this, width, height] { window.windowHandle()->resize(width, height); };
     };
@@ -104,14 +104,14 @@ TEST_F(ScreenTest, InAnyImposedSizeTheFormIsInTheMiddleOrScrolls) {
         EXPECT_TRUE(window.height() < formSize.height() || std::abs(off.y()) <= 1) << off.y();
         for (const char* const corner : {"cmdOpen", "cmdHelp"}) {
             Find(corner)->setFocus();
-            EXPECT_TRUE(IsInSight(*Find(corner))) << corner << &impose - impositions;
+            EXPECT_TRUE(IsFullyVisible(*Find(corner))) << corner << &impose - impositions;
         }
         window.showNormal();
     }
     EXPECT_EQ(window.minimumSize(), formSize);
 }
 
-TEST(SizeLimitsTest, AreAwayWhileASizeIsImposedUnderWaylandAndBackThen) {
+TEST(SizeLimitsTest, AreLiftedWhileASizeIsImposedUnderWaylandAndReturnAfterwards) {
     const QSize own(300, 200);
     for (const char* const platform : {"wayland", "wayland-egl", "xcb"}) {
         const bool needed = QString(platform) != "xcb";
@@ -270,7 +270,7 @@ TEST_F(ScreenTest, MarksAndTitlesKeepClearOfWhatIsBesideThem) {
     EXPECT_EQ(open->iconSize().width(), open->fontMetrics().ascent() * 4 / 3);
 }
 
-// Arrows as wide as they are high, wide margins, and much room above what is in a frame.
+// Arrows as wide as they are high, wide margins, and much space above the contents of a frame.
 class OddStyle : public QProxyStyle {
 public:
     QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
@@ -291,7 +291,7 @@ public:
     }
 };
 
-// A box without room for its text, whose end it shows, scrolls on the way to the beginning.
+// Whether a box scrolls from the end of its text to the beginning, since it lacks room.
 bool Scrolls(QLineEdit& box) {
     const auto caret = [&box] {
         box.grab();
@@ -343,7 +343,7 @@ TEST_F(ScreenTest, NothingIsCutOffInAnyFontAndStyle) {
             }
         }
         for (std::size_t type = form.cmbType.Entries().size(); type-- > 0;) {
-            form.cmbType.Pick(type);  // the first one, at last, has flows
+            form.cmbType.Pick(type);  // Hawaiian, picked last, has flows
             expectRoom("chkCald", form.chkCald.Caption().data());
             expectRoom("labSlide4", form.labSlide4.Caption().data());
         }

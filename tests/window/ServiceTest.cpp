@@ -6,7 +6,7 @@
 #include "window/FileDevice.h"
 #include "window/IniSettings.h"
 
-TEST(IniSettingsTest, AValueArrivesByteForByte) {
+TEST(IniSettingsTest, AValueIsReadByteForByte) {
     const std::string system = qgetenv("XDG_CONFIG_DIRS").toStdString();
     std::filesystem::create_directories(system);
     WriteBytes(system + "/Tephrex3.ini", "[SETTINGS]\r\ndatapath=/system\r\nOther=1\r\n");
@@ -21,10 +21,10 @@ TEST(IniSettingsTest, AValueArrivesByteForByte) {
     EXPECT_EQ(read("Other") + read("Missing"), "1none");
     std::filesystem::remove(own);
     mkfifo(own.c_str(), 0600);
-    EXPECT_EQ(read("DataPath"), "/system") << "and no wait for the pipe";
+    EXPECT_EQ(read("DataPath"), "/system") << "without waiting for the pipe";
 }
 
-TEST(FileDeviceTest, AFileIsFlushedAndWhatKnowsNoFlushCountsAsFlushed) {
+TEST(FileDeviceTest, AFileIsFlushedAndADeviceWithoutFlushCountsAsFlushed) {
     const TempFolder folder;
     WriteBytes(folder / "a.rec", "");
     std::filesystem::create_symlink("a.rec", folder / "link.rec");

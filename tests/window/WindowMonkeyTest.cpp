@@ -1,6 +1,6 @@
-// A monkey at the window: keys, clicks, drags, picks and the rest go to the window as from the
-// platform, and after each of them every widget must show its control. Seed and length come from
-// the environment as for the monkey at the form.
+// Random user actions on the window: keys, clicks, drags, picks and others reach it as from the
+// platform, and after each one every widget must show its control. Environment variables set the
+// seed and the number of actions, as in MonkeyTest.cpp.
 #include <random>
 
 #include "../RandomUser.h"
@@ -10,7 +10,7 @@
 
 namespace {
 
-// While a menu or a message is in front, boxes show what they showed before.
+// Nothing while a menu or a message is in front: boxes then keep their old selection.
 QString Selection(const QWidget& box, int start, int length) {
     const bool inFront = box.isActiveWindow() && QApplication::activePopupWidget() == nullptr;
     return inFront ? QString("selects %1+%2").arg(start).arg(length) : QString();
@@ -65,7 +65,7 @@ QStringList Expected(const Control& control, const QWidget& widget) {
     return expected;
 }
 
-/// Real message boxes; each is answered as soon as it is up.
+/// Real message boxes; each is answered as soon as it shows.
 class AnsweredMessages : public MessageBoxes {
 public:
     AnsweredMessages(QWidget& window, std::function<void()> look)
@@ -116,7 +116,7 @@ protected:
         keyClick(window.windowHandle(), key.key(), key.keyboardModifiers());
     }
 
-    // Brings an entry of the list that opens to the user's choice, by keys or by the mouse.
+    // Opens a list and picks a random entry with a key or the mouse.
     void PickFrom(QComboBox& list) {
         list.setFocus();
         Press(Qt::Key_Down);
@@ -133,7 +133,7 @@ protected:
         }
     }
 
-    /// Does something and returns what it was.
+    /// Performs a random action and returns its description.
     QString Act() {
         static constexpr Qt::KeyboardModifiers held[]{
             {}, {}, {}, Qt::ShiftModifier, Qt::ControlModifier};
@@ -225,7 +225,7 @@ protected:
         }
     }
 
-    /// What the window shows otherwise than the form has it.
+    /// Expects each widget to show its control, and the widget with the focus to be the active one.
     void Compare() {
         for (const auto& [control, widget] : widgets) {
             const QStringList shown = Shown(*widget), expected = Expected(*control, *widget);
@@ -252,13 +252,13 @@ TEST_F(WindowMonkeyTest, EveryWidgetShowsItsControlWhateverTheUserDoes) {
     generator.seed(seed);
     RandomUser user(form, platform, folder, [this](std::size_t below) { return Choose(below); });
     QStringList actions;
-    for (unsigned long i = FromEnvironment("TEPHREX_MONKEY_ACTS", 2000); i > 0; --i) {
+    for (unsigned long i = FromEnvironment("TEPHREX_MONKEY_ACTIONS", 2000); i > 0; --i) {
         platform.answers.clear();
         user.PrepareAnswer();
         actions << Act();
         actions = actions.mid(std::max<qsizetype>(actions.size() - 20, 0));
         if (QApplication::activePopupWidget() == nullptr) {
-            window.activateWindow();  // as a desktop does when a menu or a message has gone
+            window.activateWindow();  // as a desktop does when a menu or a message closes
         }
         QApplication::processEvents();
         Compare();

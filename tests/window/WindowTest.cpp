@@ -2,7 +2,7 @@
 
 #include "window/MessageDialogs.h"
 
-TEST_F(WindowTest, OnlyKeysThatBringOrTakeACharacterCountAsPresses) {
+TEST_F(WindowTest, OnlyKeysThatProduceACharacterCountAsPresses) {
     auto* const box = Find<QLineEdit>("txtWind");
     QInputMethodEvent commit;
     commit.setCommitString("7");
@@ -10,9 +10,9 @@ TEST_F(WindowTest, OnlyKeysThatBringOrTakeACharacterCountAsPresses) {
         return [box, key, with] { keyClick(box, key, with); };
     };
     struct Row {
-        std::function<void()> act;
+        std::function<void()> action;
         bool isPress;
-        const char* text;  // of a box that showed "123" with the insertion point behind the 2
+        const char* text;  // of a box that showed "123" with the insertion point after the 2
     };
     const Row rows[]{
         {press(Qt::Key_5), true, "1253"},
@@ -40,7 +40,7 @@ TEST_F(WindowTest, OnlyKeysThatBringOrTakeACharacterCountAsPresses) {
         box->setFocus();
         box->setCursorPosition(2);
         events.clear();
-        row.act();
+        row.action();
         window.RunPendingEvents();
         EXPECT_EQ(events.starts_with('k'), row.isPress) << events << &row - rows;
         EXPECT_EQ(Find("Command2")->isEnabled(), row.isPress) << "row " << &row - rows;
@@ -49,7 +49,7 @@ TEST_F(WindowTest, OnlyKeysThatBringOrTakeACharacterCountAsPresses) {
     }
 }
 
-TEST_F(WindowTest, FocusSelectsAllALaterClickPlacesTheCaretARewriteSendsItToTheEnd) {
+TEST_F(WindowTest, FocusSelectsAllALaterClickMovesTheCaretAndARewriteMovesItToTheEnd) {
     auto* const wind = Find<QLineEdit>("txtWind");
     auto* const part = Find<QLineEdit>("txtPart");
     for (int round = 0; round < 2; ++round) {
@@ -82,12 +82,12 @@ TEST_F(WindowTest, FocusSelectsAllALaterClickPlacesTheCaretARewriteSendsItToTheE
     EXPECT_EQ(form.txtPart.SelLength(), 2U) << "by a drag";
     part->home(false);
     keyClick(part, Qt::Key_5);
-    EXPECT_EQ(part->text(), "50") << "the highest value in place of 520";
+    EXPECT_EQ(part->text(), "50") << "the highest value instead of 520";
     EXPECT_EQ(part->cursorPosition(), 2);
     EXPECT_FALSE(part->isUndoAvailable()) << "what was typed is gone";
 }
 
-TEST_F(WindowTest, TextThatIsNoUtf8KeepsItsBytesUntilTheUserEditsIt) {
+TEST_F(WindowTest, TextThatIsNotUtf8KeepsItsBytesUntilTheUserEditsIt) {
     auto* const box = Find<QLineEdit>("txtTopFile");
     const std::string old = "/Pel\xE9\x65\x85";
     form.txtTopFile.SetText(old);
@@ -101,7 +101,7 @@ TEST_F(WindowTest, TextThatIsNoUtf8KeepsItsBytesUntilTheUserEditsIt) {
     EXPECT_EQ(form.txtTopFile.Text(), "/Peléxe…");
 }
 
-TEST_F(WindowTest, NothingButAChoiceInTheOpenListIsAPick) {
+TEST_F(WindowTest, OnlyAChoiceInTheOpenListIsAPick) {
     auto* const list = Find<QComboBox>("cmbType");
     int picks = 0;
     form.cmbType.Click = [&picks] { ++picks; };
@@ -130,14 +130,14 @@ TEST_F(WindowTest, NothingButAChoiceInTheOpenListIsAPick) {
     EXPECT_EQ(list->view()->minimumWidth(),
               list->view()->sizeHintForColumn(0) + 2 * list->view()->frameWidth() +
                   list->view()->verticalScrollBar()->sizeHint().width());
-    EXPECT_EQ(list->view()->currentIndex().row(), 7) << "the entry on show";
+    EXPECT_EQ(list->view()->currentIndex().row(), 7) << "the current entry";
     keyClick(list->view(), Qt::Key_Down);
     keyClick(list->view(), Qt::Key_Return);
     EXPECT_EQ(form.cmbType.Text(), "Erosion");
     list->showPopup();
     const QRect erosion = list->view()->visualRect(list->model()->index(8, 0));
     mouseClick(list->view()->viewport(), Qt::LeftButton, {}, erosion.center());
-    EXPECT_EQ(picks, 2) << "the second one of the entry on show";
+    EXPECT_EQ(picks, 2) << "the second time, the current entry";
 }
 
 TEST_F(WindowTest, TabGoesThroughTheWholeForm) {
@@ -162,14 +162,14 @@ TEST_F(WindowTest, TabGoesThroughTheWholeForm) {
               "txtSlide6 txtMap1 txtMap3 txtMap2 txtMap4");
 }
 
-TEST_F(WindowTest, ASelectedOptionStays) {
+TEST_F(WindowTest, ASelectedOptionStaysSelectedWhenClickedAgain) {
     auto* const small = Find<QAbstractButton>("optSmall");
     small->click();
     small->click();
     EXPECT_TRUE(small->isChecked());
 }
 
-TEST_F(WindowTest, OnlyTheFirstClosingUnloads) {
+TEST_F(WindowTest, OnlyTheFirstCloseUnloads) {
     int times = 0;
     form.Unload = [&times] { ++times; };
     for (const bool byForm : {false, true}) {
@@ -204,7 +204,7 @@ TEST_F(WindowTest, TheFormBehindAMessageIsUpToDate) {
     }
 }
 
-TEST_F(WindowTest, TipsStandOverTheirOwnControlsOnly) {
+TEST_F(WindowTest, TipsAppearOverTheirOwnControlsOnly) {
     const auto tipOver = [this](const char* name) {
         QToolTip::hideText();
         QHelpEvent event(QEvent::ToolTip, {3, 3}, Find(name)->mapToGlobal(QPoint(3, 3)));
@@ -212,7 +212,8 @@ TEST_F(WindowTest, TipsStandOverTheirOwnControlsOnly) {
         return QToolTip::text();
     };
     EXPECT_EQ(tipOver("labLoc"), "");
-    EXPECT_EQ(tipOver("txtMag"), "Edit the fault magnitude (0-5)") << "disabled, and has a tip";
+    EXPECT_EQ(tipOver("txtMag"), "Edit the fault magnitude (0-5)")
+        << "a disabled control has its tip";
     QTest::mouseMove(Find("txtTopFile"), {5, 5});
     EXPECT_EQ(tipOver("txtTopFile"), "No stratigraphic file attached");
 }

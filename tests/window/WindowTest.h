@@ -1,4 +1,4 @@
-// A form that is on the screen. Tests act on its widgets as a user does.
+// A form shown in its window. Tests operate its widgets as a user does.
 #pragma once
 
 #include <QTest>

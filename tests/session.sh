@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# road.sh PROGRAM: the whole road from nothing, in a real window with real mouse and keys: nine
-# phases, one of each kind, a stratigraphic file, a scale, saved, opened again and saved again as
-# the same record; then 500 phases and the refusal of one more. Leaves pictures.
+# session.sh PROGRAM: a whole session in a real window with real mouse and keys: a new record of
+# nine phases, one of each type, with a stratigraphic file and a scale is saved, opened again and
+# saved again unchanged; then a record of 500 phases refuses one more. Leaves screenshots.
 . "$(dirname "$0")/../scripts/lib.sh"
 . scripts/screen.sh
 
@@ -17,7 +17,7 @@ add_phase 0 # Hawaiian
 fill Loc 12
 fill Burst 3
 fill Lava 500
-picture road-hawaiian
+picture session-hawaiian
 add_phase 1 # Peléean
 fill Loc 12.5
 add_phase 2 # Strombolian
@@ -28,7 +28,7 @@ fill Loc 14
 fill Str 0.9
 press Cald
 pick Style 1
-picture road-plinian
+picture session-plinian
 add_phase 4 # Vulcanian/Surtseyan
 fill Loc 15
 fill Str 0.5
@@ -43,7 +43,7 @@ fill Loc 20
 pick Down 1
 add_phase 8 # Erosion
 fill Erode 4
-picture road-erosion
+picture session-erosion
 
 press Change
 answer_dialog "Open Stratigraphic File" "$home/strata.str"
@@ -54,7 +54,7 @@ wait_until test -s "$home/first.rec"
 
 press Open
 answer_dialog "Open Record File" "$home/first.rec"
-picture road-opened
+picture session-opened
 fill Loc 12
 press Save
 answer_dialog "Save Record File" "$home/second.rec"
@@ -64,7 +64,7 @@ diff "$home/first.rec" "$home/second.rec" || fail "the record changed on its way
 grep -q '"Stratigraphic file:","'"$home"'/strata.str"' "$home/first.rec" || fail "no strata"
 grep -q '"Recorded phases",9,100' "$home/first.rec" || fail "not at large scale"
 
-# One phase short of a full record: as many clicks do not all arrive on a busy machine.
+# One phase short of a full record: 500 clicks would not all arrive on a busy machine.
 phase=$(sed '1,/"Record Phase: ",9/d' "$home/first.rec")
 {
     printf '"Stratigraphic file:",""\n"Recorded phases",499,20\n'
@@ -79,7 +79,7 @@ answer_dialog "Save Record File" "$home/full.rec"
 wait_until grep -q '"Record Phase: ",500' "$home/full.rec"
 press Add
 await "^TephrexEdit$"
-picture road-full
+picture session-full
 keys Return
 await_gone "^TephrexEdit$"
 close_editor
