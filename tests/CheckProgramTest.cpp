@@ -21,7 +21,7 @@ std::string Printed(const TempFolder& folder, const std::string& arguments) {
 TEST(CheckProgramTest, ListsRecordsInOrderAndExitsWithTheWorstStatus) {
     const std::string demo = ReadBytes(TEPHREX_DATA "/TephrexDemo.rec");
     const std::string warned = Replaced(demo, "14,20", "14,0");
-    const std::string invalid = Replaced(demo, "0.2,-8", "0.2,-80");
+    const std::string invalid = Replaced(demo, "0.2,-8", "0.2,-80.5");
     const TempFolder folder;
     std::filesystem::create_directories(folder / "all/b.rec/none");
     std::filesystem::create_directory_symlink("..", folder / "all/again.rec");
@@ -42,7 +42,8 @@ TEST(CheckProgramTest, ListsRecordsInOrderAndExitsWithTheWorstStatus) {
     WriteBytes(folder / "[\n\xE9\"]", demo + ',');
     const std::string warning = "all/b-w.rec:2: warning: 0 is judged as 20 (scale)\n";
     const std::string fault =
-        "all/b.rec/i.Rec:13: invalid: phase 2 (Strombolian): Wind speed too negative (wind -80, at "
+        "all/b.rec/i.Rec:13: invalid: phase 2 (Strombolian): Wind speed too negative (wind -80.5, "
+        "at "
         "least -50)\n";
     const std::string json =
         "\",\"findings\":[{\"level\":\"warning\",\"line\":125,\"message\":\"text after the last "
@@ -82,7 +83,7 @@ TEST(CheckProgramTest, ListsRecordsInOrderAndExitsWithTheWorstStatus) {
         {"--json [[]*", "{\"record\":\"[\\n\uFFFD\\\"]" + json + "passes\"}\n= 0\n"},
         {"--json all/b.rec",
          R"({"record":"all/b.rec/i.Rec","findings":[{"level":"invalid","line":13,"phase":2,)"
-         R"("type":"Strombolian","field":"wind","value":-80,"lowest":-50,)"
+         R"("type":"Strombolian","field":"wind","value":-80.5,"lowest":-50,)"
          R"("message":"Wind speed too negative"}],"phases":14,"status":"invalid"})"
          "\n= 1\n"},
         {".rec",
@@ -93,7 +94,7 @@ TEST(CheckProgramTest, ListsRecordsInOrderAndExitsWithTheWorstStatus) {
         {help + "'", "1\n= 0\n"},
         {"-q all/b.REC; " + onTerminal + "all/b.rec no\"",
          "all/b.rec/i.Rec:13: \x1b[1;33minvalid:\x1b[0m phase 2 (Strombolian): Wind speed too "
-         "negative (wind -80, at least -50)\r\n"
+         "negative (wind -80.5, at least -50)\r\n"
          "no: \x1b[1;31merror:\x1b[0m No such file or directory\r\n"
          "2 records: 1 invalid, 1 unreadable\r\n= 2\n"},
         {"-q all/b.REC; NO_COLOR= " + onTerminal + "all/b-w.rec\"",

@@ -151,6 +151,12 @@ const Change Changes[] = {
      "9: warning: phase 1: 41 is outside 0 to 40 (position3D)\n"
      "9: warning: phase 1: 12 is outside 1 to 11 (ventPosition)\n"
      "9: warning: phase 1: -1 is outside 0 to 9 (growth)\n"},
+    {"5,1,10\n20,1,0,2\n0,0,4,0\n0,0,0,0,0\n6,5,20,5", "7,1,10\n20,0,0,0\n0,0,4,1\n0,0,0,0,0\n6,0,20,12",
+     "9: warning: phase 1: 0 is outside 1 to 11 (craterSize)\n"
+     "9: warning: phase 1: 12 is outside 1 to 11 (ventPosition)\n"},
+    {"5,1,10\n20,1,0,2\n0,0,4,0\n0,0,0,0,0\n6,5,20,5", "7,1,10\n20,0,0,0\n0,0,4,0\n0,0,0,0,0\n6,0,20,12", ""},
+    {"5,1,10\n20,1,0,2\n0,0,4,0\n0,0,0,0,0\n6,5,20,5", "1,1,10\n20,1,0,2\n0,0,4,0\n0,0,0,0,0\n6,5,20,12",
+     "9: warning: phase 1: 12 is outside 1 to 11 (ventPosition)\n"},
     {"0,0,-1,1.5", "0,0,-5,7",
      "18: invalid: phase 2 (Hawaiian): Left angle must be >= -4 (leftAngle -5)\n"
      "18: invalid: phase 2 (Hawaiian): Right angle must be <= 4 (rightAngle 7)\n"},
@@ -246,6 +252,17 @@ std::string Invalid(const std::string& findings) {
         invalid += line.find(": invalid: ") != line.npos ? line + '\n' : "";
     }
     return invalid;
+}
+
+TEST(CheckTest, TheWidestBoundsOfAFieldAreThoseOfAllTypes) {
+    const auto bounds = [](const PhaseField& field) {
+        const Bounds widest = WidestBounds(field, ScaleCode::Large);
+        return std::pair(widest.lowest.value_or(-999), widest.highest.value_or(999));
+    };
+    EXPECT_EQ(bounds(FieldOf(&PhaseRecord::strength)), std::pair(.1F, 2.F));
+    EXPECT_EQ(bounds(FieldOf(&PhaseRecord::wind)), std::pair(-50.F, 50.F));
+    EXPECT_EQ(bounds(FieldOf(&PhaseRecord::midRadius)), std::pair(-999.F, 640.F));
+    EXPECT_EQ(bounds(FieldOf(&PhaseRecord::speed)), std::pair(-999.F, 999.F));
 }
 
 TEST(CheckTest, EachLimitIsReportedWithItsLineAndValueAndAValueAtTheLimitPasses) {
