@@ -5,7 +5,6 @@
 #include <QXmlStreamReader>
 #include <algorithm>
 #include <limits>
-#include <map>
 #include <random>
 #include <set>
 
@@ -268,25 +267,6 @@ TEST(DrawTest, UnusedColumnsTakeNoRoom) {
          {Contents{true}, Contents{false, true}, Contents{false, false, 1}}) {
         EXPECT_LT(ColumnsOf(*record.state, used, 180, lettering).mapEnd, whole);
     }
-}
-
-TEST(DrawTest, ARefusedPhaseShowsTheFirstMessageAndHowManyMoreThereAre) {
-    TestRecord record;
-    PhaseRecord& phase = record.Add(EruptionType::Hawaiian);
-    phase.leftAngle = 5;
-    phase.rightAngle = 5;
-    record.Add(EruptionType::Pelean).flowLength = 32767;
-    record.Add(EruptionType::Plinian);
-    const Drawing drawing = Draw(record);
-    std::map<int, QString> texts;
-    for (const Group& group : drawing.pages[0].groups) {
-        for (const Text& text : group.texts) {
-            texts[group.phase] += text.text + ' ';
-        }
-    }
-    EXPECT_TRUE(texts[1].endsWith("Right angle must be <= 4 +1 ")) << texts[1].toStdString();
-    EXPECT_TRUE(texts[2].endsWith("Overflow ")) << texts[2].toStdString();
-    EXPECT_TRUE(texts[3].endsWith("5 ")) << texts[3].toStdString();
 }
 
 TEST(DrawTest, TheLegendListsOnlyWhatOccurs) {
