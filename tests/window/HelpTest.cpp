@@ -47,6 +47,12 @@ TEST_F(WindowTest, HelpIsReadByKeysAndKeepsItsPlaceUntilItIsClosed) {
     WriteBytes(folder / "help", "# 94 Top\nThe word.\n## Part\n\nA Word.\n");
     form.CD1.HelpFile = folder / "\\help";
     form.CD1.HelpContext = 94;
+    const QPalette usual = QApplication::palette();
+    const auto restored = qScopeGuard([usual] { QApplication::setPalette(usual); });
+    QPalette faded = usual;
+    faded.setColor(QPalette::Inactive, QPalette::Highlight, Qt::gray);
+    faded.setColor(QPalette::Inactive, QPalette::HighlightedText, Qt::black);
+    QApplication::setPalette(faded);
     HelpWindow viewer(window);
     const auto showOrQuit = [&](int command) {
         form.CD1.HelpCommand = command;
@@ -63,6 +69,7 @@ TEST_F(WindowTest, HelpIsReadByKeysAndKeepsItsPlaceUntilItIsClosed) {
     ASSERT_TRUE(QTest::qWaitForWindowActive(&help));
     const auto& page = *help.findChild<QTextEdit*>();
     auto& list = *help.findChild<QTreeWidget*>();
+    const auto& said = *help.findChild<Notice*>();
     struct Row {
         QKeyCombination key;
         int caret;
@@ -78,16 +85,22 @@ TEST_F(WindowTest, HelpIsReadByKeysAndKeepsItsPlaceUntilItIsClosed) {
         {Qt::Key_W, 19},
         {Qt::Key_Return, 22},
         {Qt::Key_F3, 9, "Continued from the beginning"},
-        {Qt::SHIFT | Qt::Key_F3, 22, "Continued from the end"},
-        {Qt::Key_Escape, 22, "Continued from the end"},  // back to the text
-        {Qt::CTRL | Qt::Key_F, 22, "Continued from the end"},
+        {Qt::Key_F3, 22},
         {Qt::Key_Z, 22},
         {Qt::Key_Return, 22, "Not found"},
+        {Qt::CTRL | Qt::Key_F, 22, "Not found"},
+        {Qt::Key_P, 22},  // in place of the last word
+        {Qt::SHIFT | Qt::Key_F3, 15},
+        {Qt::SHIFT | Qt::Key_F3, 3},
+        {Qt::SHIFT | Qt::Key_F3, 15, "Continued from the end"},
+        {Qt::Key_Escape, 15, "Continued from the end"},
+        {Qt::Key_Home, 14, "Continued from the end"},  // in the text
     };
     for (const Row& row : rows) {
         keyClick(QApplication::focusWidget(), row.key.key(), row.key.keyboardModifiers());
         EXPECT_EQ(page.textCursor().position(), row.caret) << "row " << &row - rows;
-        EXPECT_EQ(help.findChild<Notice*>()->text(), row.said);
+        EXPECT_EQ(said.isVisible() ? said.text() + said.accessibleName() : "",
+                  QString(row.said).repeated(2));
     }
     emit list.itemActivated(list.topLevelItem(1), 0);
     EXPECT_EQ(page.textCursor().block().text(), "Part");
@@ -98,46 +111,66 @@ TEST_F(WindowTest, HelpIsReadByKeysAndKeepsItsPlaceUntilItIsClosed) {
         passed += QApplication::focusWidget()->accessibleName();
     } while (!page.hasFocus());
     EXPECT_EQ(passed.join(", "), "Headings, Find, Find previous (Shift+F3), Find next (F3), Top");
-    EXPECT_FALSE(list.rootIsDecorated() || list.itemsExpandable() ||
-                 list.isHeaderHidden() == false);
+    EXPECT_FALSE(list.rootIsDecorated() || list.itemsExpandable() || !list.isHeaderHidden());
+    EXPECT_EQ(list.headerItem()->text(0), "Headings");
     const auto share = [&help](int width) { return width * help.fontMetrics().averageCharWidth(); };
     EXPECT_EQ(list.frameShape() + page.frameShape(), int(QFrame::NoFrame));
     EXPECT_EQ(list.indentation(), 2 * list.fontMetrics().averageCharWidth());
     EXPECT_EQ(list.horizontalScrollMode(), QAbstractItemView::ScrollPerPixel);
     EXPECT_FALSE(list.header()->stretchLastSection());
     EXPECT_EQ(list.header()->sectionResizeMode(0), QHeaderView::ResizeToContents);
-    EXPECT_TRUE(page.isReadOnly());
+    EXPECT_TRUE(page.isReadOnly() && !page.testAttribute(Qt::WA_InputMethodEnabled));
     EXPECT_FALSE(help.testAttribute(Qt::WA_QuitOnClose));
     const auto buttons = help.findChildren<QToolButton*>();
-    EXPECT_TRUE(buttons[0]->autoRaise() && buttons[0]->arrowType() == Qt::UpArrow);
-    EXPECT_TRUE(buttons[1]->autoRaise() && buttons[1]->arrowType() == Qt::DownArrow);
-    EXPECT_EQ(buttons[1]->toolTip(), "Find next (F3)");
+    for (const int i : {0, 1}) {
+        EXPECT_TRUE(buttons[i]->autoRaise());
+        EXPECT_EQ(buttons[i]->arrowType(), i ? Qt::DownArrow : Qt::UpArrow);
+        EXPECT_EQ(buttons[i]->toolTip(), i ? "Find next (F3)" : "Find previous (Shift+F3)");
+        buttons[i]->click();
+        EXPECT_EQ(page.textCursor().position(), i ? 15 : 3);
+    }
+    const auto labels = help.findChildren<QLabel*>();
+    QWidget* const box = help.findChild<QLineEdit*>();
+    EXPECT_EQ(labels[1]->buddy(), box);
+    int end = -1;
+    for (const QWidget* part : {(QWidget*)labels[1], box, (QWidget*)buttons[0],
+                                (QWidget*)buttons[1], (QWidget*)labels[0]}) {
+        EXPECT_EQ(part->x(), end + 7);
+        end = part->geometry().right();
+    }
     EXPECT_EQ(help.findChild<QHBoxLayout*>()->contentsMargins(), QMargins(6, 6, 6, 0));
     EXPECT_EQ(help.layout()->contentsMargins(), QMargins());
     auto& parts = *help.findChild<QSplitter*>();
     EXPECT_FALSE(parts.childrenCollapsible());
     EXPECT_EQ(help.frameGeometry().left(), window.frameGeometry().right() + 1);
     EXPECT_EQ(help.frameGeometry().top(), window.screen()->availableGeometry().top());
-    EXPECT_EQ(help.findChild<QLineEdit*>()->maximumWidth(), share(40));
+    EXPECT_EQ(box->maximumWidth(), share(40));
     EXPECT_EQ(help.width(), share(132));
     EXPECT_EQ(help.height(), 42 * help.fontMetrics().lineSpacing());
-    EXPECT_EQ(page.palette().color(QPalette::Inactive, QPalette::Highlight),
-              page.palette().color(QPalette::Active, QPalette::Highlight));
-    for (const int width : {101, 103}) {
+    for (const auto role : {QPalette::Highlight, QPalette::HighlightedText})
+        EXPECT_EQ(page.palette().color(QPalette::Inactive, role).rgb(), usual.color(role).rgb());
+    for (const int width : {101, 103, 150}) {
         help.resize(share(width), 500);
         EXPECT_EQ(parts.orientation(), width < 102 ? Qt::Vertical : Qt::Horizontal);
         EXPECT_NEAR(parts.sizes()[0],
                     width < 102 ? 10 * help.fontMetrics().lineSpacing() : share(34), 12);
     }
-    help.showMinimized();
-    viewer.ShowHelp(form.CD1);
-    EXPECT_FALSE(help.isMinimized());
+    for (const auto leave : {&QWidget::showMinimized, &QWidget::show}) {
+        (help.*leave)();
+        window.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+        viewer.ShowHelp(form.CD1);
+        EXPECT_TRUE(!help.isMinimized() && QTest::qWaitForWindowActive(&help));
+    }
     EXPECT_EQ(page.textCursor().block().text(), "Part") << "the place that was reached";
-    keyClick(&help, Qt::Key_W, Qt::ControlModifier);
-    EXPECT_FALSE(help.isVisible());
-    EXPECT_TRUE(window.isVisible());
-    viewer.ShowHelp(form.CD1);
-    EXPECT_EQ(page.textCursor().position(), 0);
+    for (const auto close : {Qt::CTRL | Qt::Key_W, QKeyCombination(Qt::Key_Escape)}) {
+        keyClick(&help, Qt::Key_F3, Qt::ShiftModifier);
+        keyClick(&help, close.key(), close.keyboardModifiers());
+        EXPECT_TRUE(!help.isVisible() && window.isVisible());
+        viewer.ShowHelp(form.CD1);
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&help) && !said.isVisible());
+        EXPECT_EQ(page.textCursor().position(), 0);
+    }
     showOrQuit(CommonDialog::Quit);
     EXPECT_FALSE(help.isVisible());
     std::string lines;
@@ -160,7 +193,7 @@ TEST_F(WindowTest, HelpIsReadByKeysAndKeepsItsPlaceUntilItIsClosed) {
     };
     EXPECT_EQ(role(help), QAccessible::Window);
     EXPECT_EQ(role(window), QAccessible::Window);
-    EXPECT_EQ(role(*help.findChild<Notice*>()), QAccessible::Notification);
+    EXPECT_EQ(role(*labels[0]), QAccessible::Notification);
 }
 
 TEST(HelpWindowTest, OpensBesideTheFormWhereThereIsRoom) {

@@ -5,6 +5,7 @@
 
 #include "WindowTest.h"
 #include "form/Catalogue.h"
+#include "window/View.h"
 #include "window/WidestTexts.h"
 
 class ScreenTest : public WindowTest {
@@ -161,6 +162,9 @@ void ExpectContrast(const QWidget& field, QPalette::ColorGroup group, QPalette::
 TEST_F(ScreenTest, FieldsAreReadableInLightAndDarkAndWhenGreyed) {
     const QPalette usual = QApplication::palette();
     FormWindow themed(form);
+    const QPalette pale = PalePalette(QPalette(QColor(35, 35, 35)), Qt::white);
+    for (const auto role : {QPalette::Text, QPalette::WindowText})
+        EXPECT_EQ(pale.color(QPalette::Active, role), Qt::black);
     for (const int grey : {35, 239}) {
         QApplication::setPalette(QPalette(QColor(grey, grey, grey)));
         QWidgetList coloured{themed.findChild<QWidget*>("labPhases")};

@@ -1,4 +1,6 @@
 #include <sys/stat.h>
+#include <sys/syscall.h>
+#include <unistd.h>
 
 #include <QApplication>
 
@@ -24,13 +26,22 @@ TEST(IniSettingsTest, AValueIsReadByteForByte) {
     EXPECT_EQ(read("DataPath"), "/system") << "without waiting for the pipe";
 }
 
-TEST(FileDeviceTest, AFileIsFlushedAndADeviceWithoutFlushCountsAsFlushed) {
+// In place of the C library's: a folder named `failing` cannot be flushed.
+extern "C" int fsync(int file) {
+    const auto path = std::filesystem::read_symlink("/proc/self/fd/" + std::to_string(file));
+    errno = EIO;
+    return path.filename() == "failing" ? -1 : static_cast<int>(syscall(SYS_fsync, file));
+}
+
+TEST(FileDeviceTest, AFileAndItsFolderAreFlushedAndADeviceWithoutFlushCountsAsFlushed) {
     const TempFolder folder;
-    WriteBytes(folder / "a.rec", "");
+    std::filesystem::create_directories(folder / "failing");
+    for (const char* const made : {"a.rec", "failing/a.rec"}) WriteBytes(folder / made, "");
     std::filesystem::create_symlink("a.rec", folder / "link.rec");
     std::filesystem::create_symlink("/dev/full", folder / "full.rec");
-    const std::pair<const char*, bool> rows[] = {
-        {"a.rec", true}, {"link.rec", true}, {"full.rec", true}, {"no.rec", false}, {"", false}};
+    const std::pair<const char*, bool> rows[] = {{"a.rec", true},    {"link.rec", true},
+                                                 {"full.rec", true}, {"no.rec", false},
+                                                 {"", false},        {"failing/a.rec", false}};
     for (const auto& [name, flushed] : rows) {
         EXPECT_EQ(FileDevice().Flush(folder / name), flushed) << name;
     }

@@ -162,6 +162,30 @@ TEST_F(WindowTest, TabGoesThroughTheWholeForm) {
               "txtSlide6 txtMap1 txtMap3 txtMap2 txtMap4");
 }
 
+TEST_F(WindowTest, EveryWidgetShowsTheStateOfItsControl) {
+    for (const bool on : {false, true}) {
+        form.chkCald.SetValue(on);
+        for (Control* control : form.Controls()) {
+            control->SetEnabled(on);
+            control->SetVisible(on);
+            auto* const captioned = dynamic_cast<CaptionedControl*>(control);
+            if (captioned != nullptr) captioned->SetCaption(on ? "On" : "Off");
+        }
+        window.RunPendingEvents();
+        for (const Control* control : form.Controls()) {
+            const auto* const widget = Find(control->Name().data());
+            if (widget == nullptr) continue;
+            EXPECT_TRUE(widget->isEnabled() == on && widget->isHidden() != on) << control->Name();
+            const auto* const frame = qobject_cast<const QGroupBox*>(widget);
+            const QString shown = frame ? frame->title() : widget->property("text").toString();
+            EXPECT_TRUE(dynamic_cast<const CaptionedControl*>(control) == nullptr ||
+                        shown.startsWith(on ? "On" : "Off"))
+                << control->Name();
+        }
+        EXPECT_EQ(Find<QAbstractButton>("chkCald")->isChecked(), on);
+    }
+}
+
 TEST_F(WindowTest, ASelectedOptionStaysSelectedWhenClickedAgain) {
     auto* const small = Find<QAbstractButton>("optSmall");
     small->click();
