@@ -42,5 +42,7 @@ close_editor
 
 export FONTCONFIG_FILE=$PWD/tests/draw/fonts.conf
 "${1%/*}/tephrexdraw" -o docs/history.svg data/TephrexDemo.rec
-"${1%/*}/tephrexdraw" -o tests/draw/every.svg tests/draw/every.rec
-echo docs/history.svg tests/draw/every.svg
+for width in 120 300; do
+    "${1%/*}/tephrexdraw" --width $width -o "tests/draw/every-$width.svg" tests/draw/every.rec
+done
+ls docs/history.svg tests/draw/every-*.svg

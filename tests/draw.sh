@@ -9,6 +9,7 @@ trap 'rm -rf "$folder"' EXIT
 cd "$folder"
 unset DISPLAY WAYLAND_DISPLAY
 export QT_QPA_PLATFORM=xcb QT_SCALE_FACTOR=2 QT_FONT_DPI=150
+export XDG_CACHE_HOME=$folder/cache # for fontconfig: nothing goes into the user's home
 
 give_up() {
     echo "draw: $*" >&2
@@ -35,13 +36,15 @@ case $(head -c 24 1.png | od -An -tx1 | tr -d ' \n') in
     *) give_up "a PNG of 180 mm at 200 dpi is 1418 pixels wide" ;;
 esac
 
-# Two drawings, down to the last point and colour: the README's, and one of a record with every symbol,
-# many invalid values and the ends of the map. scripts/pictures.sh makes them again.
+# Drawings down to the last point and colour: the README's, and a narrow and a wide one of a record with
+# every symbol, many invalid values and the ends of the map. scripts/pictures.sh makes them again.
 [ -e /usr/share/fonts/truetype/dejavu/DejaVuSans.ttf ] || give_up "needs fonts-dejavu-core"
 export FONTCONFIG_FILE=$project/tests/draw/fonts.conf
 "$draw" "$record" | diff "$project/docs/history.svg" - || give_up "the drawing in the README differs"
-"$draw" "$project/tests/draw/every.rec" | diff "$project/tests/draw/every.svg" - ||
-    give_up "the drawing of every.rec differs"
+for width in 120 300; do
+    "$draw" "$project/tests/draw/every.rec" --width $width |
+        diff "$project/tests/draw/every-$width.svg" - || give_up "every.rec, $width mm: it differs"
+done
 unset FONTCONFIG_FILE
 
 # refused LINE ARGUMENT...: expects status 2, that one line of output, and no new file in the folder.
