@@ -21,8 +21,8 @@ from concurrent.futures import ThreadPoolExecutor
 from pathlib import Path
 
 PROJECT = Path(__file__).resolve().parent.parent
-# A test run hangs, and so notices the change, if it takes longer than SECONDS and than SLOWER times
-# its usual time.
+# A test run that takes longer than SECONDS and longer than SLOWER times its usual time hangs, and
+# so notices the change.
 SLOWER, SECONDS = 10, 120
 
 # The tests of each folder of src: the target to build, and the command to run in the build folder.
@@ -122,8 +122,8 @@ def changes_of(lines, in_order):
 
 
 def all_changes(src):
-    """Takes all kinds of change in turn, from large files more often than from small ones, and from
-    headers seldom, since everything that includes them is rebuilt."""
+    """Yields all kinds of change in turn, from large files more often than from small ones, and
+    from headers seldom, since everything that includes them is rebuilt."""
     kinds = {}
     for path in sorted(src.rglob("*.*")):
         if path.suffix not in (".cpp", ".h"):

@@ -18,7 +18,7 @@ std::string Printed(const TempFolder& folder, const std::string& arguments) {
     return text;
 }
 
-TEST(CheckProgramTest, ListsRecordsInOrderAndExitsWithTheWorstStatus) {
+TEST(CheckProgramTest, EachCommandLineHasItsOutputAndExitsWithTheWorstStatus) {
     const std::string demo = ReadBytes(TEPHREX_DATA "/TephrexDemo.rec");
     const std::string warned = Replaced(demo, "14,20", "14,0");
     const std::string invalid = Replaced(demo, "0.2,-8", "0.2,-80.5");

@@ -254,7 +254,7 @@ std::string Invalid(const std::string& findings) {
     return invalid;
 }
 
-TEST(CheckTest, TheWidestBoundsOfAFieldAreThoseOfAllTypes) {
+TEST(CheckTest, TheWidestBoundsOfAFieldCoverAllTypes) {
     const auto bounds = [](const PhaseField& field) {
         const Bounds widest = WidestBounds(field, ScaleCode::Large);
         return std::pair(widest.lowest.value_or(-999), widest.highest.value_or(999));
@@ -312,7 +312,7 @@ TEST(CheckTest, OfTwoFaultsTheOneCheckedFirstIsReported) {
     }
 }
 
-TEST(CheckTest, InvisibleCharactersAreEscaped) {
+TEST(CheckTest, InvisibleCharactersAreEscapedAndLongQuotesAreCutOff) {
     const std::string seen =
         "~\u00A0\u00AC\u00AE\u061B\u061D\u200A\u2010\u2027\u202F\u205F\u2070\uFEFE\uFF00\U000DFFFF"
         "\U000E0080";

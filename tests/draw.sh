@@ -43,7 +43,7 @@ export FONTCONFIG_FILE=$project/tests/draw/fonts.conf
 "$draw" "$record" | diff "$project/docs/history.svg" - || give_up "the drawing in the README differs"
 for width in 120 300; do
     "$draw" "$project/tests/draw/every.rec" --width $width |
-        diff "$project/tests/draw/every-$width.svg" - || give_up "every.rec, $width mm: it differs"
+        diff "$project/tests/draw/every-$width.svg" - || give_up "every.rec differs at $width mm"
 done
 unset FONTCONFIG_FILE
 
@@ -55,11 +55,11 @@ refused() {
     "$draw" "$@" >out 2>said || status=$?
     [ "$status" = 2 ] || give_up "$*: status $status"
     [ "$(wc -l <said)" = 1 ] && grep -q -- "$line" said || give_up "$*: $(cat said)"
-    [ ! -s out ] || give_up "$*: something on standard output"
+    [ ! -s out ] || give_up "$*: standard output is not empty"
     ls -A | diff before - || give_up "$*: a file is left"
 }
 for limit in --width=2000 --width=120 --dpi=10 --dpi=2400; do
-    "$draw" "$record" $limit >out || give_up "$limit"
+    "$draw" "$record" $limit >out || give_up "$limit is refused"
 done
 touch out said before
 head -c 300 "$record" >cut.rec
@@ -81,13 +81,13 @@ refused "from 10 to 2400" "$record" --dpi nan
 refused "name one record; --help shows how"
 refused "name one record" "$record" "$record"
 refused "Unknown option" "$record" $'--col\nour'
-grep -qx "tephrexdraw [0-9.]*" <<<"$("$draw" -V)" || give_up "the version"
+grep -qx "tephrexdraw [0-9.]*" <<<"$("$draw" -V)" || give_up "the version is wrong"
 help="Draws a record of the Tephrex eruption simulator as one picture. Options: \
 -h, --help Show this help and exit. -V, --version Show the version and exit. -o, --output <FILE> \
 Draw into FILE, which ends in .svg, .png or .pdf; by default, SVG on standard output. \
 --width <MM> Width in millimetres, 120 to 2000. --dpi <DPI> Dots per inch of a PNG, 10 to 2400. \
 Arguments: RECORD The record to draw. "
-[ "$("$draw" -h | tail -n +2 | tr -s ' \n' ' ')" = "$help" ] || give_up "the help"
+[ "$("$draw" -h | tail -n +2 | tr -s ' \n' ' ')" = "$help" ] || give_up "the help differs"
 status=0
 "$draw" "$record" >/dev/full 2>said || status=$?
 [ "$status" = 2 ] && grep -q "^tephrexdraw: standard output: No space" said || give_up "a full device: $(cat said)"

@@ -40,10 +40,10 @@ report=$(hardening-check "${programs[@]}" || true)
 echo "$report"
 for trait in "Position Independent Executable" "Stack protected" "Read-only relocations" \
     "Immediate binding"; do
-    [ "$(grep -c "^ $trait: yes" <<<"$report")" -eq ${#programs[@]} ] || give_up "not: $trait"
+    [ "$(grep -c "^ $trait: yes" <<<"$report")" -eq ${#programs[@]} ] || give_up "a program lacks: $trait"
 done
 commands=$(grep '"command".*/src/' "$build/compile_commands.json")
-! grep -v -- '-D_FORTIFY_SOURCE=3' <<<"$commands" || give_up "not all is fortified"
+! grep -v -- '-D_FORTIFY_SOURCE=3' <<<"$commands" || give_up "not every unit is fortified"
 
 # names: lists every file that an installation could leave behind.
 names() { as_root find /etc /opt /usr /var/lib/dpkg/info | sort; }
@@ -53,8 +53,8 @@ as_root dpkg -i "$package"
 [ "$(command -v tephrexedit)" = /usr/bin/tephrexedit ] || give_up "not in the search path"
 program=$(readlink -f /usr/bin/tephrexedit)
 [ -f "${program%/*}/Tephrex3.hlp" ] || give_up "the help file is not beside $program"
-[ -f /usr/share/mime/application/x-tephrex-record.xml ] || give_up "records have no type"
-tephrexcheck --strict /usr/share/tephrexedit || give_up "the demonstration record is not faultless"
+[ -f /usr/share/mime/application/x-tephrex-record.xml ] || give_up "record files have no media type"
+tephrexcheck --strict /usr/share/tephrexedit || give_up "the demonstration record has findings"
 
 # A new user has no settings: the system-wide ones name the folder of the demonstration record.
 start_editor tephrexedit
@@ -62,7 +62,7 @@ press Open
 answer_dialog "Open Record File" TephrexDemo.rec
 picture installed
 
-# What was opened is what can be saved: the demonstration record's phases.
+# The demonstration record keeps its phases when it is opened and saved.
 fill Loc 9.5
 press Save
 answer_dialog "Save Record File" "$home/Copy.rec"

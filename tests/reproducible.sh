@@ -19,7 +19,7 @@ pack() {
 pack "$build" ours
 (
     umask 077
-    export LC_ALL=C TZ=Pacific/Auckland CCACHE_DISABLE=1 # which would return our build
+    export LC_ALL=C TZ=Pacific/Auckland CCACHE_DISABLE=1 # ccache would return the first build
     mkdir "$copy/source"
     git ls-files -z | xargs -0 tar -c | tar -x -m -C "$copy/source"
     cmake -S "$copy/source" -B "$copy/elsewhere" \

@@ -59,9 +59,9 @@ fill Loc 12
 press Save
 answer_dialog "Save Record File" "$home/second.rec"
 wait_until test -s "$home/second.rec"
-diff "$home/first.rec" "$home/second.rec" || fail "the record changed on its way"
+diff "$home/first.rec" "$home/second.rec" || fail "the record changed when it was saved again"
 [ "$(grep -c 'Record Phase' "$home/first.rec")" = 9 ] || fail "not nine phases"
-grep -q '"Stratigraphic file:","'"$home"'/strata.str"' "$home/first.rec" || fail "no strata"
+grep -q '"Stratigraphic file:","'"$home"'/strata.str"' "$home/first.rec" || fail "no reference"
 grep -q '"Recorded phases",9,100' "$home/first.rec" || fail "not at large scale"
 
 # One phase short of a full record: 500 clicks would not all arrive on a busy machine.

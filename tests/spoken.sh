@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# spoken.sh PROGRAM: the editor for users who hear it. spoken.py operates the running program as a
-# screen reader does, on a private bus.
+# spoken.sh PROGRAM: the editor by its accessible interface. spoken.py operates the running
+# program as a screen reader does, on a private bus.
 . "$(dirname "$0")/../scripts/lib.sh"
 
 install_missing "${screen_packages[@]}" at-spi2-core dbus-daemon python3-pyatspi

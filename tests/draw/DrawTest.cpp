@@ -1,4 +1,4 @@
-// What tephrexdraw draws of records made here.
+// The layout of drawings, and their output as SVG and PNG.
 #include <gtest/gtest.h>
 
 #include <QGuiApplication>
@@ -55,7 +55,7 @@ struct TestRecord {
     }
 };
 
-// The shapes with this mark in the row of a phase; for phase 0, in all that is not a row.
+// The shapes with this mark in the row of a phase; for phase 0, outside the rows.
 std::vector<Shape> ShapesOf(const Drawing& drawing, int phase, Mark mark) {
     std::vector<Shape> shapes;
     for (const Page& page : drawing.pages) {
@@ -82,7 +82,7 @@ Drawing Draw(const TestRecord& record) {
 }
 
 // A record of random values that a file can hold but Save would mostly refuse.
-TestRecord Wild(int phases) {
+TestRecord RandomRecord(int phases) {
     std::mt19937 random(static_cast<unsigned>(phases));
     TestRecord record;
     const auto any = [&random](auto... values) {
@@ -105,7 +105,7 @@ TestRecord Wild(int phases) {
     return record;
 }
 
-// No text, with room for another font, overlaps another; texts and shapes are inside the page.
+// Expects texts not to overlap, even in a wider font, and texts and shapes to be inside the page.
 void ExpectInPlace(const Page& page) {
     const QRectF paper(QPointF(0, 0), page.size);
     std::vector<std::pair<QRectF, QString>> rooms;
@@ -131,19 +131,19 @@ void ExpectInPlace(const Page& page) {
     }
 }
 
-// Each phase once, from the bottom upwards, and an axis on each page.
+// Expects each phase once, from the bottom upwards, and an axis on each page.
 void ExpectWhole(const Drawing& drawing, int phases) {
     int next = 1;
     for (const Page& page : drawing.pages) {
-        double above = page.size.height();
+        double previous = page.size.height();
         bool axis = false;
         for (const Group& group : page.groups) {
             axis = axis || std::any_of(group.texts.begin(), group.texts.end(),
                                        [](const Text& text) { return text.text == "Time"; });
             if (group.phase != 0) {
                 EXPECT_EQ(group.phase, next++);
-                EXPECT_LT(group.texts.front().at.y(), above);
-                above = group.texts.front().at.y();
+                EXPECT_LT(group.texts.front().at.y(), previous);
+                previous = group.texts.front().at.y();
             }
         }
         EXPECT_TRUE(axis);
@@ -157,7 +157,7 @@ TEST(DrawTest, NoTextOverlapsAnotherOrLeavesThePage) {
     const std::string name(5000, 'W');
     std::string stacked = "e";
     for (int i = 0; i < 30; ++i) {
-        stacked += "\xCC\x81";  // an acute accent above the last one
+        stacked += "\xCC\x81";  // one more acute accent above the e
     }
     struct Row {
         int phases;
@@ -178,7 +178,7 @@ TEST(DrawTest, NoTextOverlapsAnotherOrLeavesThePage) {
     };
     for (const Row& row : rows) {
         SCOPED_TRACE("row " + std::to_string(&row - rows));
-        const TestRecord record = Wild(row.phases);
+        const TestRecord record = RandomRecord(row.phases);
         record.state->RecordScale = row.scale;
         record.state->StratFile = row.reference;
         const Drawing drawing = DrawRecord(*record.state, row.name, {row.width, row.tallest});
@@ -333,7 +333,7 @@ TEST(DrawTest, PagesHoldAsManyRowsAsFit) {
     }
 }
 
-TEST(DrawTest, NamesAreOneReadableLineAndNumbersAreShort) {
+TEST(DrawTest, NamesSummariesAndNumbersAreReadable) {
     const std::pair<std::string, const char*> names[]{
         {"a\x1F\x7F z", "a?? z"},
         {"\u2027\u2028\u202E\u202F", "\u2027??\u202F"},
@@ -364,7 +364,7 @@ TEST(DrawTest, NamesAreOneReadableLineAndNumbersAreShort) {
 }
 
 TEST(DrawTest, AnSvgIsWellFormedAndHasEachTextAsText) {
-    TestRecord record = Wild(30);
+    TestRecord record = RandomRecord(30);
     record.state->StratFile = "<&>\"\x01\xEF\xBF\xBF";
     const Drawing drawing = DrawRecord(*record.state, "]]><b>.rec", {180, AnyHeight});
     const QByteArray bytes = SvgOf(drawing);

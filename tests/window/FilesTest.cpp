@@ -9,9 +9,9 @@ protected:
     FileChooser chooser{window};
     std::string question;  // or refusal of the last dialog; empty if there was none
 
-    /// The name that a dialog chooses; empty if it refuses. It opens with the offered name, which
-    /// the typed one replaces, if any, after the dialog has refused another. A question is answered
-    /// with Yes.
+    /// The name chosen in a dialog; empty if it was refused. The dialog opens with the offered
+    /// name. A typed name, if any, is entered after a longer one, which is refused. Questions are
+    /// answered with Yes.
     std::string Choose(bool opens, const std::string& offered, const std::string& typed = {}) {
         QTimer::singleShot(0, &window, [&] {
             auto* const dialog = QApplication::activeModalWidget();
@@ -63,7 +63,7 @@ TEST_F(FilesTest, AnyNameIsShownOnOneLineAndChosenByteForByte) {
         EXPECT_EQ(Choose(false, path), path);
         EXPECT_EQ(question, "");
         const std::string shown = ToScreen(name).toStdString();
-        EXPECT_EQ(Choose(true, "", name), "") << "is not there yet";
+        EXPECT_EQ(Choose(true, "", name), "") << "does not exist yet";
         EXPECT_EQ(question,
                   shown + "\nFile not found.\nPlease verify the correct file name was given.");
         WriteBytes(path, "");
@@ -94,7 +94,7 @@ TEST_F(FilesTest, ANameGetsItsExtensionAndNoFileIsReplacedWithoutAQuestion) {
         {"", "there", folder / "there.rec"},
         {"", "bare", folder / "bare", true},
         {"", "there", folder / "there.rec", true},
-        {folder / "bare", "", folder / "bare"},  // its own name
+        {folder / "bare", "", folder / "bare"},  // an offered name is kept
         {"", "bare", folder / "bare.rec"},
         {"", "eruption v1.2", folder / "eruption v1.2.rec"},
         {"", "a.REC", folder / "a.REC"},
@@ -114,13 +114,13 @@ TEST_F(FilesTest, ANameGetsItsExtensionAndNoFileIsReplacedWithoutAQuestion) {
     }
 }
 
-TEST_F(FilesTest, AQuestionOfTheToolkitShowsANameOnOneLine) {
+TEST_F(FilesTest, AQuestionAskedByTheToolkitShowsANameOnOneLine) {
     for (const char* const asked : {"'%1' is write protected.\nDo you want to delete it anyway?",
                                     "Are you sure you want to delete '%1'?", "What is '%1'?"}) {
         QLabel label(QString(asked).arg("a\nb"), &window);
         label.ensurePolished();
-        const bool own = asked[0] != 'W';
-        EXPECT_EQ(label.text(), QString(asked).arg(own ? ToScreen("a\nb") : "a\nb"));
+        const bool known = asked[0] != 'W';
+        EXPECT_EQ(label.text(), QString(asked).arg(known ? ToScreen("a\nb") : "a\nb"));
         EXPECT_EQ(label.textFormat(), Qt::PlainText);
     }
 }
@@ -135,7 +135,7 @@ TEST_F(FilesTest, AReferenceKeepsItsControlCharactersWhileItIsEdited) {
     const QString shown = box->text();
     EXPECT_EQ(shown, Find<QLabel>("labRecfile")->text());
     EXPECT_FALSE(shown.contains('\n') || shown.contains(QChar::LineSeparator))
-        << "would cut it off";
+        << "would cut the text off";
     form.labRecfile.SetCaption(std::string(150, 'a') + reference);
     window.RunPendingEvents();
     EXPECT_TRUE(Find<QLabel>("labRecfile")->text().endsWith(shown)) << "cut off at the beginning";
@@ -159,7 +159,7 @@ TEST(NameInMessageTest, ALongNameMayBreakBetweenItsLetters) {
               name(60) + u'\u0301' + u'\u200B' + name(60) + u'\u200B' + name(1));
 }
 
-TEST_F(FilesTest, ADialogShowsItsWholeListAndEntersASelectedFolder) {
+TEST_F(FilesTest, ADialogShowsWholeNamesOnOneLineAndEntersASelectedFolder) {
     std::filesystem::create_directories(folder / "<b>fol\nder");
     WriteBytes(folder / (std::string(30, 'n') + ".rec"), "");
     QTimer::singleShot(0, &window, [] {
@@ -229,7 +229,7 @@ TEST_F(FilesTest, AfterADialogFocusAndSelectionAreAsBeforeWithoutAnEvent) {
     }
 }
 
-// Runs as a user other than root, who may write in any folder.
+// Runs as a user other than root, since root may write in any folder.
 class NotRoot {
 public:
     NotRoot() { EXPECT_EQ(was == 0 ? setresuid(65534, 65534, 0) : 0, 0); }

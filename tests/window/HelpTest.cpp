@@ -6,7 +6,7 @@
 #include "window/HelpText.h"
 #include "window/HelpWindow.h"
 
-TEST(HelpTextTest, IsATopicOfARegularFileOrSaysWhyThereIsNone) {
+TEST(HelpTextTest, ShowsATopicWithoutLinksOrImagesOrSaysWhyItCannot) {
     const TempFolder folder;
     const std::string picture = folder / "dot.png";
     QImage(1, 1, QImage::Format_RGB32).save(picture.c_str());
@@ -43,7 +43,7 @@ TEST(HelpTextTest, IsATopicOfARegularFileOrSaysWhyThereIsNone) {
     }
 }
 
-TEST_F(WindowTest, HelpIsReadByKeysAndKeepsItsPlaceUntilItIsClosed) {
+TEST_F(WindowTest, HelpHasItsLayoutIsSearchedByKeysAndKeepsItsPlaceUntilClosed) {
     WriteBytes(folder / "help", "# 94 Top\nThe word.\n## Part\n\nA Word.\n");
     form.CD1.HelpFile = folder / "\\help";
     form.CD1.HelpContext = 94;
@@ -162,7 +162,7 @@ TEST_F(WindowTest, HelpIsReadByKeysAndKeepsItsPlaceUntilItIsClosed) {
         viewer.ShowHelp(form.CD1);
         EXPECT_TRUE(!help.isMinimized() && QTest::qWaitForWindowActive(&help));
     }
-    EXPECT_EQ(page.textCursor().block().text(), "Part") << "the place that was reached";
+    EXPECT_EQ(page.textCursor().block().text(), "Part") << "the place before";
     for (const auto close : {Qt::CTRL | Qt::Key_W, QKeyCombination(Qt::Key_Escape)}) {
         keyClick(&help, Qt::Key_F3, Qt::ShiftModifier);
         keyClick(&help, close.key(), close.keyboardModifiers());

@@ -51,7 +51,7 @@ TEST_F(ScreenTest, TheWindowIsCentredWithItsFrameOrFillsASmallScreen) {
     EXPECT_EQ(fitted->size(), formSize);
 }
 
-TEST_F(ScreenTest, ASmallWindowFollowsTheFocusAndTheWheelScrollsItAndChangesNothing) {
+TEST_F(ScreenTest, ASmallWindowScrollsToTheFocusAndByTheWheelWhichChangesNoValue) {
     const auto fitted = Centred(small);
     for (Control* control : form.Controls()) {
         control->SetEnabled(true);
@@ -202,7 +202,7 @@ TEST_F(ScreenTest, FieldsAreReadableInLightAndDarkAndWhenGreyed) {
     QApplication::setPalette(usual);
 }
 
-TEST_F(ScreenTest, MarksAndTitlesKeepClearOfWhatIsBesideThem) {
+TEST_F(ScreenTest, WidgetsAndTheWindowHaveTheirMarksAlignmentsPointersAndIcons) {
     QApplication::setFont(QFont(QApplication::font().family(), 24));
     const FormWindow sized(form);
     for (QAbstractButton* button : sized.findChildren<QAbstractButton*>()) {
@@ -295,7 +295,7 @@ public:
     }
 };
 
-// Whether a box scrolls from the end of its text to the beginning, since it lacks room.
+// Whether a box is too narrow for its text: it then scrolls between the end and the beginning.
 bool Scrolls(QLineEdit& box) {
     const auto caret = [&box] {
         box.grab();

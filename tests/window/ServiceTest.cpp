@@ -8,7 +8,7 @@
 #include "window/FileDevice.h"
 #include "window/IniSettings.h"
 
-TEST(IniSettingsTest, AValueIsReadByteForByte) {
+TEST(IniSettingsTest, TheUsersValueComesFirstAndIsReadByteForByte) {
     const std::string system = qgetenv("XDG_CONFIG_DIRS").toStdString();
     std::filesystem::create_directories(system);
     WriteBytes(system + "/Tephrex3.ini", "[SETTINGS]\r\ndatapath=/system\r\nOther=1\r\n");
@@ -26,7 +26,7 @@ TEST(IniSettingsTest, AValueIsReadByteForByte) {
     EXPECT_EQ(read("DataPath"), "/system") << "without waiting for the pipe";
 }
 
-// In place of the C library's: a folder named `failing` cannot be flushed.
+// Replaces the C library's: a folder named `failing` cannot be flushed.
 extern "C" int fsync(int file) {
     const auto path = std::filesystem::read_symlink("/proc/self/fd/" + std::to_string(file));
     errno = EIO;

@@ -10,7 +10,7 @@
 
 namespace {
 
-// Nothing while a menu or a message is in front: boxes then keep their old selection.
+// A selection as text; empty while a menu or message is in front: boxes then keep the old one.
 QString Selection(const QWidget& box, int start, int length) {
     const bool inFront = box.isActiveWindow() && QApplication::activePopupWidget() == nullptr;
     return inFront ? QString("selects %1+%2").arg(start).arg(length) : QString();
@@ -36,7 +36,7 @@ QStringList Shown(const QWidget& widget) {
     return shown;
 }
 
-/// What it should show.
+/// What the widget of a control should show.
 QStringList Expected(const Control& control, const QWidget& widget) {
     QStringList expected{ToScreen(control.ToolTipText()),
                          control.Enabled() ? "enabled" : "disabled",
@@ -248,7 +248,7 @@ protected:
 
 TEST_F(WindowMonkeyTest, EveryWidgetShowsItsControlWhateverTheUserDoes) {
     const unsigned long seed = FromEnvironment("TEPHREX_MONKEY_SEED", 1);
-    std::cout << "seed " << seed << std::endl;  // even if a sanitizer ends the program
+    std::cout << "seed " << seed << std::endl;  // flushed in case of a crash
     generator.seed(seed);
     RandomUser user(form, platform, folder, [this](std::size_t below) { return Choose(below); });
     QStringList actions;

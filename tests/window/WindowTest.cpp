@@ -49,7 +49,7 @@ TEST_F(WindowTest, OnlyKeysThatProduceACharacterCountAsPresses) {
     }
 }
 
-TEST_F(WindowTest, FocusSelectsAllALaterClickMovesTheCaretAndARewriteMovesItToTheEnd) {
+TEST_F(WindowTest, FocusSelectsAllAClickMovesTheCaretAndACorrectionPutsItAtTheEnd) {
     auto* const wind = Find<QLineEdit>("txtWind");
     auto* const part = Find<QLineEdit>("txtPart");
     for (int round = 0; round < 2; ++round) {
@@ -57,7 +57,7 @@ TEST_F(WindowTest, FocusSelectsAllALaterClickMovesTheCaretAndARewriteMovesItToTh
         EXPECT_EQ(wind->selectedText(), "10");
         keyClick(wind, Qt::Key_Tab);
         EXPECT_EQ(part->selectedText(), "20");
-        EXPECT_EQ(form.txtWind.SelLength(), 2U) << "though the widget has forgotten it";
+        EXPECT_EQ(form.txtWind.SelLength(), 2U) << "though the widget shows it no more";
     }
     mouseClick(wind, Qt::LeftButton);
     form.txtWind.Select(0, 1);
@@ -84,7 +84,7 @@ TEST_F(WindowTest, FocusSelectsAllALaterClickMovesTheCaretAndARewriteMovesItToTh
     keyClick(part, Qt::Key_5);
     EXPECT_EQ(part->text(), "50") << "the highest value instead of 520";
     EXPECT_EQ(part->cursorPosition(), 2);
-    EXPECT_FALSE(part->isUndoAvailable()) << "what was typed is gone";
+    EXPECT_FALSE(part->isUndoAvailable()) << "the typed text is gone";
 }
 
 TEST_F(WindowTest, TextThatIsNotUtf8KeepsItsBytesUntilTheUserEditsIt) {
@@ -137,10 +137,10 @@ TEST_F(WindowTest, OnlyAChoiceInTheOpenListIsAPick) {
     list->showPopup();
     const QRect erosion = list->view()->visualRect(list->model()->index(8, 0));
     mouseClick(list->view()->viewport(), Qt::LeftButton, {}, erosion.center());
-    EXPECT_EQ(picks, 2) << "the second time, the current entry";
+    EXPECT_EQ(picks, 2) << "picking the current entry counts too";
 }
 
-TEST_F(WindowTest, TabGoesThroughTheWholeForm) {
+TEST_F(WindowTest, TabVisitsEachControlOnceAndTheFocusIsVisible) {
     for (Control* control : form.Controls()) {
         control->SetEnabled(true);
     }
@@ -203,7 +203,7 @@ TEST_F(WindowTest, OnlyTheFirstCloseUnloads) {
     }
 }
 
-TEST_F(WindowTest, TheFormBehindAMessageIsUpToDate) {
+TEST_F(WindowTest, AMessageHasItsTextTitleAndIconAndTheFormShowsTheLatestState) {
     const std::pair<MessageIcon, QMessageBox::Icon> rows[]{
         {MessageIcon::Information, QMessageBox::Information},
         {MessageIcon::Exclamation, QMessageBox::Warning},

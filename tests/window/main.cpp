@@ -1,5 +1,5 @@
-// Runs the tests of the window without a real screen, and with settings files of their own. There
-// are two screens, neither of them at the origin: a large one and one smaller than the form.
+// Runs the tests of the window without a real screen, and with temporary settings files. There are
+// two screens, neither at the origin: a large one and one smaller than the form.
 #include <gtest/gtest.h>
 
 #include <QApplication>

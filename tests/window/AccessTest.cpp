@@ -25,7 +25,7 @@ TEST_F(WindowTest, AScreenReaderFindsTheLabelAndTheDescriptionOfAControl) {
     EXPECT_EQ(Find("txtLava")->toolTip(), "") << "for screen readers only";
 }
 
-TEST_F(WindowTest, AListAndAnOptionObeyTheirAccessibleActions) {
+TEST_F(WindowTest, AScreenReaderReadsAndOperatesAListAndAnOption) {
     auto& list = *Find<QComboBox>("cmbType");
     auto* const heard = QAccessible::queryAccessibleInterface(&list);
     QObject* const parts[]{list.view(), list.lineEdit()};
@@ -66,7 +66,7 @@ TEST_F(WindowTest, AListAndAnOptionObeyTheirAccessibleActions) {
     EXPECT_EQ(form.optSmall.Value(), true);
 }
 
-TEST_F(WindowTest, AScreenReaderReadsADocumentLineByLine) {
+TEST_F(WindowTest, AScreenReaderReadsADocumentByLinesAndSelectsInIt) {
     QTextEdit page;
     page.setPlainText("ab\u2028cd\n\ne\u00A0f");
     page.resize(400, 300);
