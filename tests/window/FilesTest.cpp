@@ -10,7 +10,7 @@ protected:
     std::string question;  // or refusal of the last dialog; empty if there was none
 
     /// The name chosen in a dialog; empty if it was refused. The dialog opens with the offered
-    /// name. A typed name, if any, is entered after a longer one, which is refused. Questions are
+    /// name. A typed name, if any, is entered after one that is too long is refused. Questions are
     /// answered with Yes.
     std::string Choose(bool opens, const std::string& offered, const std::string& typed = {}) {
         QTimer::singleShot(0, &window, [&] {
