@@ -12,12 +12,14 @@ import os
 import random
 import re
 import shutil
+import signal
 import subprocess
 import sys
 import tempfile
 import threading
 import time
 from concurrent.futures import ThreadPoolExecutor
+from contextlib import suppress
 from pathlib import Path
 
 PROJECT = Path(__file__).resolve().parent.parent
@@ -147,9 +149,22 @@ def all_changes(src):
                 del kinds[kind]
 
 
-def run(*command, **options):
-    return subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True,
-                          errors="replace", **options)
+RUNNING = set()  # the process group of each command: what it starts ends with it
+
+
+def run(*command, limit=None, **options):
+    """The exit status and output of the command. TimeoutExpired after `limit` seconds."""
+    process = subprocess.Popen(command, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True,
+                               errors="replace", process_group=0, **options)
+    RUNNING.add(process.pid)
+    try:
+        return process.communicate(timeout=limit)[0], process.returncode
+    except subprocess.TimeoutExpired:
+        os.killpg(process.pid, signal.SIGKILL)
+        process.communicate()
+        raise
+    finally:
+        RUNNING.discard(process.pid)
 
 
 class Copy:
@@ -159,9 +174,11 @@ class Copy:
         self.src, self.build = folder / "src", folder / "build"
         self.seconds = {}  # by tests: how long they take without a change
         shutil.copytree(PROJECT, folder, ignore=shutil.ignore_patterns("build", ".git"))
-        run("cmake", "-S", folder, "-B", self.build, "-DCMAKE_BUILD_TYPE=None",
-            "-DBUILD_TESTING=ON", "-DCMAKE_CXX_FLAGS=-O0",
-            "-DCMAKE_GTEST_DISCOVER_TESTS_DISCOVERY_MODE=PRE_TEST", check=True)
+        output, status = run("cmake", "-S", folder, "-B", self.build, "-DCMAKE_BUILD_TYPE=None",
+                             "-DBUILD_TESTING=ON", "-DCMAKE_CXX_FLAGS=-O0",
+                             "-DCMAKE_GTEST_DISCOVER_TESTS_DISCOVERY_MODE=PRE_TEST")
+        if status != 0:
+            raise RuntimeError(output)
 
     def measure(self, tests):
         built, begin = self.builds(tests), time.monotonic()
@@ -170,15 +187,15 @@ class Copy:
         self.seconds[tests] = time.monotonic() - begin
 
     def builds(self, tests):
-        return run("cmake", "--build", self.build, "--target", tests[0]).returncode == 0
+        return run("cmake", "--build", self.build, "--target", tests[0])[1] == 0
 
     def failure(self, tests):
         """What the tests print if they fail, otherwise an empty text."""
         known = self.seconds.get(tests)
         limit = known and max(SLOWER * known, SECONDS)
         try:
-            result = run(*tests[1], cwd=self.build, timeout=limit)
-            return (result.stdout or "failed") if result.returncode != 0 else ""
+            output, status = run(*tests[1], cwd=self.build, limit=limit)
+            return (output or "failed") if status != 0 else ""
         except subprocess.TimeoutExpired:
             return "[ RUN      ] time-limit"
 
@@ -229,8 +246,14 @@ class Trial:
                     if name is not None and self.tried < self.how_many:
                         self.report(*change, name)
         except Exception:
-            self.how_many = self.tried  # the other copies stop too
+            self.stop()
             raise
+
+    def stop(self):
+        self.how_many = self.tried  # no further change is tried or reported
+        for group in list(RUNNING):
+            with suppress(ProcessLookupError):  # it has just ended
+                os.killpg(group, signal.SIGKILL)
 
     def next_change(self):
         with self.lock:
@@ -253,10 +276,16 @@ def main():
     print(f"seed {seed}", flush=True)
     random.seed(seed)
     folder = Path(tempfile.mkdtemp(prefix="mutate"))
+    os.environ["TMPDIR"] = str(folder)  # a walk that is killed leaves files
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
     try:
         copies = [folder / str(number) for number in range(os.cpu_count() or 1)]
         with ThreadPoolExecutor(len(copies)) as pool:
-            list(pool.map(trial.try_in, copies))
+            try:
+                list(pool.map(trial.try_in, copies))
+            except BaseException:
+                trial.stop()
+                raise
         print(f"{trial.tried - trial.missed} of {trial.tried} changes were noticed")
     finally:
         shutil.rmtree(folder)
