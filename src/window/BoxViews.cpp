@@ -91,8 +91,7 @@ void TextBoxView::ShowSelection() {
             widget.setSelection(start, end - start);
         }
     } else if (widget.hasSelectedText() || widget.cursorPosition() != end) {
-        widget.deselect();
-        widget.setCursorPosition(end);
+        widget.setCursorPosition(end);  // deselects, too
     }
 }
 

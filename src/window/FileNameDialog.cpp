@@ -132,6 +132,7 @@ FileNameDialog::FileNameDialog(QWidget& parent, const CommonDialog& dialog, Acce
     FollowSelection();
     for (auto* const button : findChildren<QPushButton*>()) {
         button->installEventFilter(this);
+        connect(&box, &QLineEdit::textChanged, this, [this, button] { EnableIfNamed(*button); });
     }
 }
 
@@ -202,11 +203,18 @@ void FileNameDialog::accept() {
     }
 }
 
-// The toolkit disables its buttons for names that it would reject; here they are valid.
+// The toolkit disables its buttons for names that it would reject; here they are valid, or refused
+// with a message.
+void FileNameDialog::EnableIfNamed(QPushButton& button) const {
+    if (!box.text().isEmpty()) {
+        button.setEnabled(true);
+    }
+}
+
 bool FileNameDialog::eventFilter(QObject* watched, QEvent* event) {
     auto* const button = qobject_cast<QPushButton*>(watched);
-    if (button != nullptr && event->type() == QEvent::EnabledChange && !box.text().isEmpty()) {
-        button->setEnabled(true);
+    if (button != nullptr && event->type() == QEvent::EnabledChange) {
+        EnableIfNamed(*button);
     } else if (button == nullptr && event->type() == QEvent::Resize) {
         FitColumns();
     }

@@ -5,8 +5,8 @@
 #include <QString>
 
 class CommonDialog;
-class QAbstractButton;
 class QLineEdit;
+class QPushButton;
 
 /// The text in the name box is one name, taken literally except for "~" and "~/" at its start, the
 /// home folder. The toolkit would read quotes as a list of names and "~name" as a home folder, and
@@ -31,6 +31,7 @@ private:
     void ShowNamesWithStandIns();
     void FollowSelection();
     void FitColumns();
+    void EnableIfNamed(QPushButton& button) const;
 
     QString PathOfName(const QString& name) const;
     QString WithExtension(const QString& path) const;

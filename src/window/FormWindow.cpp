@@ -96,9 +96,7 @@ void FormWindow::MakeViews() {
 void FormWindow::PlaceViews() {
     for (const auto& view : views) {
         const CatalogueRow& row = view->Row();
-        if (const int covered = CoveredWidth(row); covered > 0) {
-            view->Widget().setContentsMargins(0, 0, Pixels(covered), 0);
-        }
+        view->Widget().setContentsMargins(0, 0, Pixels(CoveredWidth(row)), 0);
         view->Widget().setGeometry(Pixels(row.left), Pixels(row.top), Pixels(row.width),
                                    Pixels(row.height));
     }
@@ -187,17 +185,16 @@ void FormWindow::RegainKeyboard() {
     }
 }
 
-void FormWindow::closeEvent(QCloseEvent* event) {
+void FormWindow::closeEvent(QCloseEvent* /*event*/) {
     const Mirror::UserAction action(mirror);
     if (!std::exchange(unloaded, true) && form.Unload) {
         form.Unload();
     }
-    QWidget::closeEvent(event);
 }
 
 void FormWindow::FollowFocus(QWidget* now) {
     const auto holds = [now](const auto& view) {
-        return TakesFocus(*view) && (&view->Widget() == now || view->Widget().isAncestorOf(now));
+        return TakesFocus(*view) && view->Widget().isAncestorOf(now);
     };
     const auto found = std::find_if(views.begin(), views.end(), holds);
     if (found != views.end()) {

@@ -63,14 +63,15 @@ QSize InCharacters(const QFontMetrics& metrics, int width, int lines) {
 }  // namespace
 
 HelpFrame::HelpFrame()
-    : word(new QLineEdit(this)),
-      result(new Notice(this)),
-      parts(new QSplitter(this)),
+    : parts(new QSplitter(this)),
+      page(NewPage(parts)),
       headings(NewHeadings(parts)),
-      page(NewPage(parts)) {
+      word(new QLineEdit(this)),
+      result(new Notice(this)) {
     setWindowTitle("TephrexEdit Help");
     setAttribute(Qt::WA_QuitOnClose, false);  // the program ends with the form
 
+    parts->insertWidget(0, headings);
     parts->setStretchFactor(1, 1);
     parts->setChildrenCollapsible(false);
     auto* const all = new QVBoxLayout(this);
@@ -106,10 +107,6 @@ QLayout* HelpFrame::NewFindRow() {
     row->addWidget(next);
     row->addWidget(result);
     row->addStretch(1);
-    setTabOrder(page, headings);
-    setTabOrder(headings, word);
-    setTabOrder(word, previous);
-    setTabOrder(previous, next);
     return row;
 }
 
@@ -137,14 +134,12 @@ void HelpFrame::resizeEvent(QResizeEvent* event) {
         parts->setSizes(narrow ? QList{share.height(), height() - share.height()}
                                : QList{share.width(), width() - share.width()});
     }
-    QWidget::resizeEvent(event);
 }
 
 void HelpFrame::showEvent(QShowEvent* event) {
     if (!event->spontaneous()) {  // restoring the window leaves the focus where it was
         page->setFocus();
     }
-    QWidget::showEvent(event);
 }
 
 void HelpFrame::AddKeys() {

@@ -55,9 +55,10 @@ private:
     void Report(const QString& text);
 
     std::unique_ptr<QTextDocument> document;
+    // The Tab key visits them in this order.
+    QSplitter* const parts;
+    QTextEdit* const page;
+    QTreeWidget* const headings;
     QLineEdit* const word;
     Notice* const result;
-    QSplitter* const parts;
-    QTreeWidget* const headings;
-    QTextEdit* const page;
 };

@@ -5,22 +5,27 @@
 TEST_F(WindowTest, AScreenReaderFindsTheLabelAndTheDescriptionOfAControl) {
     struct Row {
         const char* control;
-        QString label, description;
+        QString label, description, name = {};
     };
     const Row rows[]{
-        {"labRecfile", "File opened:", "Currently opened recorder file"},
+        {"labRecfile", "File opened:", "Currently opened recorder file", "a.rec"},
         {"labPhases", "Number of phases:", "Number of recorded phases"},
-        {"optLarge", "Scale:", "Set the map of this record to the large scale"},
+        {"optLarge", "Scale:", "Set the map of this record to the large scale", "Large"},
+        {"chkDirected", "Primary Parameters", "Check to make a directed blast", "Directed"},
         {"optSmall", "Scale:", "Set the map of this record to the small scale"},
         {"txtDip", "Fault dip: ", "Edit the dip direction (+/-) and slope (0 = vertical)"},
-        {"txtLava", "Primary Parameters", "Edit the duration of the selected lava flow"},
+        {"txtLava", "Primary Parameters", "Edit the duration of the selected lava flow",
+         "Flow duration"},
     };
-    for (const auto& [control, label, description] : rows) {
+    form.labRecfile.SetCaption("a.rec");
+    window.RunPendingEvents();
+    for (const auto& [control, label, description, name] : rows) {
         const auto* const heard = QAccessible::queryAccessibleInterface(Find(control));
         const auto labels = heard->relations(QAccessible::Label);
         ASSERT_FALSE(labels.isEmpty()) << control;
         EXPECT_EQ(labels.front().first->text(QAccessible::Name), label);
         EXPECT_EQ(heard->text(QAccessible::Description), description);
+        EXPECT_TRUE(name.isEmpty() || heard->text(QAccessible::Name) == name) << control;
     }
     EXPECT_EQ(Find("txtLava")->toolTip(), "") << "for screen readers only";
 }
@@ -64,6 +69,10 @@ TEST_F(WindowTest, AScreenReaderReadsAndOperatesAListAndAnOption) {
     option->actionInterface()->doAction(option->actionInterface()->toggleAction());
     EXPECT_TRUE(option->state().checkable && option->state().checked);
     EXPECT_EQ(form.optSmall.Value(), true);
+    for (auto* const part : {option, heard}) {
+        part->actionInterface()->doAction(part->actionInterface()->setFocusAction());
+        EXPECT_EQ(window.focusWidget(), part->object());
+    }
 }
 
 TEST_F(WindowTest, AScreenReaderReadsADocumentByLinesAndSelectsInIt) {

@@ -8,22 +8,26 @@ class FilesTest : public WindowTest {
 protected:
     FileChooser chooser{window};
     std::string question;  // or refusal of the last dialog; empty if there was none
+    QString left;          // in the name box at the end
 
     /// The name chosen in a dialog; empty if it was refused. The dialog opens with the offered
-    /// name. A typed name, if any, is entered after one that is too long is refused. Questions are
-    /// answered with Yes.
+    /// name. A typed name, if any, is entered after one that is too long is refused, which leaves
+    /// the button enabled. Questions are answered with Yes.
     std::string Choose(bool opens, const std::string& offered, const std::string& typed = {}) {
         QTimer::singleShot(0, &window, [&] {
             auto* const dialog = QApplication::activeModalWidget();
             auto* const box = dialog->findChild<QLineEdit*>();
             EXPECT_TRUE(QTest::qWaitForWindowActive(dialog));
+            EXPECT_EQ(box->selectedText(), box->text());
             box->setFocus();
             if (!typed.empty()) {
                 box->setText(QString(256, 'x'));
-                Accept(*box);
+                EXPECT_NE(QuestionAfter([&] { Button(*dialog)->click(); }), "");
                 box->setText(QString::fromStdString(typed));
+                EXPECT_EQ(box->text(), ToScreen(typed));
             }
-            Accept(*box);
+            question = QuestionAfter([&] { keyClick(box, Qt::Key_Return); });
+            left = box->text();
             dialog->close();
         });
         form.CD1.FileName = offered;
@@ -32,21 +36,28 @@ protected:
         return chosen ? form.CD1.FileName : "";
     }
 
-private:
-    void Accept(QLineEdit& box) {
-        question.clear();
-        QTimer::singleShot(0, &window, [this] { AnswerQuestion(); });
-        keyClick(&box, Qt::Key_Return);
+    /// The Open or Save button.
+    static QAbstractButton* Button(const QWidget& dialog) {
+        auto* const buttons = dialog.findChild<QDialogButtonBox*>();
+        auto* const open = buttons->button(QDialogButtonBox::Open);
+        return open ? open : buttons->button(QDialogButtonBox::Save);
     }
 
-    void AnswerQuestion() {
-        if (auto* const box = window.findChild<QMessageBox*>()) {
-            const auto* const label = box->findChild<QLabel*>("qt_msgbox_label");
-            EXPECT_EQ(label->textFormat(), Qt::PlainText);
-            question = label->text().remove(QChar(0x200B)).toStdString();
-            const auto yes = box->standardButtons().testFlag(QMessageBox::Yes);
-            box->button(yes ? QMessageBox::Yes : QMessageBox::Ok)->click();
-        }
+    /// What the dialog asks, or refuses, because of the action; empty if nothing.
+    template <class Action>
+    std::string QuestionAfter(Action action) {
+        std::string asked;
+        QTimer::singleShot(0, &window, [&] {
+            if (auto* const box = window.findChild<QMessageBox*>()) {
+                const auto* const label = box->findChild<QLabel*>("qt_msgbox_label");
+                EXPECT_EQ(label->textFormat(), Qt::PlainText);
+                asked = label->text().remove(QChar(0x200B)).toStdString();
+                const auto yes = box->standardButtons().testFlag(QMessageBox::Yes);
+                box->button(yes ? QMessageBox::Yes : QMessageBox::Ok)->click();
+            }
+        });
+        action();
+        return asked;
     }
 };
 
@@ -55,10 +66,11 @@ TEST_F(FilesTest, AnyNameIsShownOnOneLineAndChosenByteForByte) {
     form.CD1.DefaultExt = "rec";
     std::filesystem::create_directories(folder / "b.rec");
     for (const std::string& name : std::vector<std::string>{
-             "a\"b.rec", "\"a\" \"b.rec\".rec", "two\nlines.rec", " blanks .rec ", "a|b%1*?.rec",
-             "~root.rec", "~.rec", "\\back\\slash.rec", "-rf.rec", "$HOME.rec", ":colon.rec",
-             "<img src=evil.png>.rec", "c\r\t\x1b\x7f\u0085\u2028\u202E\u240A\U0001F30B.rec",
-             "&amp;.rec", "#?a=b.rec", std::string(251, 'n') + ".rec", std::string(255, 'n')}) {
+             "a\"b.rec", "\"a\" \"b.rec\".rec", "two\nlines.rec", "\nfirst.rec", " blanks .rec ",
+             "a|b%1*?.rec", "~root.rec", "~.rec", "\\back\\slash.rec", "-rf.rec", "$HOME.rec",
+             ":colon.rec", "<img src=evil.png>.rec",
+             "c\r\t\x1b\x7f\u0085\u2028\u202E\u2069\u240A\U0001F30B.rec", "&amp;.rec", "#?a=b.rec",
+             std::string(251, 'n') + ".rec", std::string(255, 'n')}) {
         const std::string path = folder / name;
         EXPECT_EQ(Choose(false, path), path);
         EXPECT_EQ(question, "");
@@ -82,6 +94,8 @@ TEST_F(FilesTest, AnyNameIsShownOnOneLineAndChosenByteForByte) {
 TEST_F(FilesTest, ANameGetsItsExtensionAndNoFileIsReplacedWithoutAQuestion) {
     const std::string deep = folder / (std::string(150, 'a') + "/" + std::string(150, 'b') + "/");
     std::filesystem::create_directories(deep);
+    std::filesystem::create_symlink(deep, folder / "link");
+    const std::string home = QDir::homePath().toStdString();
     WriteBytes(folder / "there.rec", "");
     WriteBytes(folder / "bare", "");
     form.CD1.InitDir = folder / "";
@@ -101,14 +115,18 @@ TEST_F(FilesTest, ANameGetsItsExtensionAndNoFileIsReplacedWithoutAQuestion) {
         {"", "a.unheard-of", folder / "a.unheard-of.rec"},
         {"", "./b/../a.txt", folder / "a.txt"},
         {"", std::string(256, 'n'), ""},  // refused
+        {"", "link/../b", folder / (std::string(150, 'a') + "/b.rec")},
+        {"", "~", ""},  // a folder
+        {"", "~/no", home + "/no.rec"},
         {deep + "a name é.rec", "", deep + "a name é.rec"},
         {"", "next", deep + "next.rec"},  // in the folder of the last choice
     };
     for (const auto& [offered, typed, chosen, opens] : rows) {
         EXPECT_EQ(Choose(opens, offered, typed), chosen) << typed;
-        const bool asks = chosen.empty() || (!opens && std::filesystem::exists(chosen));
+        EXPECT_EQ(left.isEmpty(), typed == "~");
+        const bool asks = typed.size() > 255 || (!opens && std::filesystem::exists(chosen));
         EXPECT_EQ(!question.empty(), asks) << typed;
-        if (chosen.empty()) {
+        if (typed.size() > 255) {
             EXPECT_EQ(question, typed + "\nNo file can have this name.");
         }
     }
@@ -162,8 +180,9 @@ TEST(NameInMessageTest, ALongNameMayBreakBetweenItsLetters) {
 TEST_F(FilesTest, ADialogShowsWholeNamesOnOneLineAndEntersASelectedFolder) {
     std::filesystem::create_directories(folder / "<b>fol\nder");
     WriteBytes(folder / (std::string(30, 'n') + ".rec"), "");
-    QTimer::singleShot(0, &window, [] {
+    QTimer::singleShot(0, &window, [this] {
         auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        EXPECT_EQ(dialog->windowTitle(), "Which?");
         QAbstractItemView* const list = dialog->findChild<QTreeView*>();
         const QSize roomy(140 * dialog->fontMetrics().averageCharWidth(),
                           30 * dialog->fontMetrics().height());
@@ -173,13 +192,20 @@ TEST_F(FilesTest, ADialogShowsWholeNamesOnOneLineAndEntersASelectedFolder) {
         dialog->setSidebarUrls({QUrl::fromLocalFile(dialog->directory().filePath("<b>fol\nder"))});
         const auto* const places = dialog->findChild<QListView*>("sidebar")->model();
         EXPECT_EQ(places->index(0, 0).data().toString(), ToScreen("<b>fol\nder"));
+        EXPECT_FALSE(places->index(0, 0).data(Qt::ToolTipRole).toString().contains('\n'));
         for (QAbstractItemView* const view :
              {dialog->findChild<QLineEdit*>()->completer()->popup(), list,
               static_cast<QAbstractItemView*>(dialog->findChild<QListView*>("listView"))}) {
             const auto& names = dynamic_cast<QStyledItemDelegate&>(*view->itemDelegate());
             EXPECT_EQ(names.displayText("a\nb", QLocale()), ToScreen("a\nb"));
+            QStringListModel model({"a\nb"});
+            QLineEdit editor;
+            names.setEditorData(&editor, model.index(0));
+            EXPECT_EQ(editor.text(), ToScreen("a\nb"));
+            editor.setText(ToScreen("c\nd"));
+            names.setModelData(&editor, &model, model.index(0));
+            EXPECT_EQ(model.stringList().first(), "c\nd");
         }
-        dialog->resize(900, 500);
         const auto* const header = dialog->findChild<QHeaderView*>();
         EXPECT_TRUE(QTest::qWaitFor([=] {
             QList<int> cut;
@@ -189,11 +215,19 @@ TEST_F(FilesTest, ADialogShowsWholeNamesOnOneLineAndEntersASelectedFolder) {
             return list->model()->rowCount(list->rootIndex()) == 3 && cut.isEmpty();
         }));
         EXPECT_EQ(header->length(), list->viewport()->width());
+        dialog->resize(dialog->width() + 50, 500);
+        EXPECT_EQ(header->length(), list->viewport()->width());
+        auto* const box = dialog->findChild<QLineEdit*>();
         const QModelIndex any = list->model()->index(0, 0, list->rootIndex());
         const QModelIndex inner = list->model()->match(any, Qt::DisplayRole, "<b>fol").value(0);
-        mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(inner).center());
-        mouseClick(dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Open),
-                   Qt::LeftButton);
+        const auto select = [&] {
+            mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(inner).center());
+        };
+        select();
+        keyClick(box, 'x');
+        EXPECT_NE(QuestionAfter([&] { mouseClick(Button(*dialog), Qt::LeftButton); }), "");
+        select();
+        mouseClick(Button(*dialog), Qt::LeftButton);
         const QString path = dialog->findChild<QComboBox*>("lookInCombo")->currentText();
         EXPECT_EQ(WithoutStandIns(path), dialog->directory().path());
         EXPECT_TRUE(path.contains("<b>fol") && !path.contains('\n')) << path.toStdString();
@@ -205,6 +239,8 @@ TEST_F(FilesTest, ADialogShowsWholeNamesOnOneLineAndEntersASelectedFolder) {
         }
         dialog->close();
     });
+    form.CD1.DialogTitle = "Which?";
+    form.CD1.Flags = CommonDialog::MustExist;
     form.CD1.InitDir = folder / "";
     form.CD1.FileName.clear();
     form.CD1.Filter = "Some (*.rec)|*.rec;*.REC|All files|*|";

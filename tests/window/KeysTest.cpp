@@ -85,6 +85,7 @@ TEST_F(WindowTest, TheFocusOfADisabledControlGoesToAHarmlessOne) {
     const Row rows[]{
         {nullptr, "Command2", {&form.Command2}, "cmbPhase"},
         {"txtTopFile", "Command2", {&form.Command2}, "txtTopFile"},  // by a click
+        {"txtDip", "Command2", {&form.Command2}, "txtDip"},          // from the menu
         {"txtWind", "Command2", {&form.Command2}, "txtWind"},
         {nullptr, "cmdDelete", {&form.cmdDelete, &form.txtWind}, "cmbPhase"},
         {"txtWind", "txtWind", {&form.txtWind}, "cmbPhase"},
@@ -97,8 +98,10 @@ TEST_F(WindowTest, TheFocusOfADisabledControlGoesToAHarmlessOne) {
         }
         window.RunPendingEvents();
         if (row.used != nullptr) {
-            row.used == rows[1].used ? mouseClick(Find(row.used), Qt::LeftButton)
-                                     : keyClick(Find(row.used), Qt::Key_5);
+            QApplication::clipboard()->setText("5");
+            row.used == rows[1].used   ? mouseClick(Find(row.used), Qt::LeftButton)
+            : row.used == rows[2].used ? Find<QLineEdit>(row.used)->paste()
+                                       : keyClick(Find(row.used), Qt::Key_5);
         }
         for (const char* passed : {"txtPart", row.focused}) {
             Find(passed)->setFocus(Qt::TabFocusReason);

@@ -11,16 +11,18 @@
 TEST(IniSettingsTest, TheUsersValueComesFirstAndIsReadByteForByte) {
     const std::string system = qgetenv("XDG_CONFIG_DIRS").toStdString();
     std::filesystem::create_directories(system);
-    WriteBytes(system + "/Tephrex3.ini", "[SETTINGS]\r\ndatapath=/system\r\nOther=1\r\n");
+    WriteBytes(system + "/Tephrex3.ini", "[SETTINGS]\r\ndatapath=/system\r\nOther=1]\r\n");
     const auto read = [](const std::string& key) {
         return IniSettings().Read("Tephrex3\\Settings", key, "none");
     };
     EXPECT_EQ(read("DataPath"), "/system");
     const std::string odd = "/d a, \"t\"\\x41;#=\xE9\xC3\xA9 ";
     const std::string own = qgetenv("XDG_CONFIG_HOME").toStdString() + "/Tephrex3.ini";
-    WriteBytes(own, "DataPath=/top\n[Else]\nDataPath=/else\n; c=d\n[Settings]\nDataPath=" + odd);
+    WriteBytes(
+        own,
+        "DataPath=/top\n[Else]\nDataPath=/else\n[Settings]\nOther\n;DataPath=no\nDataPath=" + odd);
     EXPECT_EQ(read("DataPath"), odd);
-    EXPECT_EQ(read("Other") + read("Missing"), "1none");
+    EXPECT_EQ(read("Other") + read("Missing"), "1]none");
     std::filesystem::remove(own);
     mkfifo(own.c_str(), 0600);
     EXPECT_EQ(read("DataPath"), "/system") << "without waiting for the pipe";
