@@ -130,10 +130,13 @@ FileNameDialog::FileNameDialog(QWidget& parent, const CommonDialog& dialog, Acce
     resize(roomy.boundedTo(screen()->availableSize()));
     ShowNamesWithStandIns();
     FollowSelection();
-    for (auto* const button : findChildren<QPushButton*>()) {
-        button->installEventFilter(this);
-        connect(&box, &QLineEdit::textChanged, this, [this, button] { EnableIfNamed(*button); });
-    }
+    // The toolkit has just disabled its button for a name that it would reject. Here such a name is
+    // valid, or refused with a message.
+    connect(&box, &QLineEdit::textChanged, this, [this](const QString& text) {
+        for (auto* const button : findChildren<QPushButton*>()) {
+            button->setEnabled(button->isEnabled() || !text.isEmpty());
+        }
+    });
 }
 
 void FileNameDialog::ShowNamesWithStandIns() {
@@ -203,19 +206,8 @@ void FileNameDialog::accept() {
     }
 }
 
-// The toolkit disables its buttons for names that it would reject; here they are valid, or refused
-// with a message.
-void FileNameDialog::EnableIfNamed(QPushButton& button) const {
-    if (!box.text().isEmpty()) {
-        button.setEnabled(true);
-    }
-}
-
 bool FileNameDialog::eventFilter(QObject* watched, QEvent* event) {
-    auto* const button = qobject_cast<QPushButton*>(watched);
-    if (button != nullptr && event->type() == QEvent::EnabledChange) {
-        EnableIfNamed(*button);
-    } else if (button == nullptr && event->type() == QEvent::Resize) {
+    if (event->type() == QEvent::Resize) {
         FitColumns();
     }
     return QFileDialog::eventFilter(watched, event);

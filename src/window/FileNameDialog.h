@@ -6,7 +6,6 @@
 
 class CommonDialog;
 class QLineEdit;
-class QPushButton;
 
 /// The text in the name box is one name, taken literally except for "~" and "~/" at its start, the
 /// home folder. The toolkit would read quotes as a list of names and "~name" as a home folder, and
@@ -31,7 +30,6 @@ private:
     void ShowNamesWithStandIns();
     void FollowSelection();
     void FitColumns();
-    void EnableIfNamed(QPushButton& button) const;
 
     QString PathOfName(const QString& name) const;
     QString WithExtension(const QString& path) const;

@@ -184,6 +184,13 @@ TEST_F(WindowTest, HelpHasItsLayoutIsSearchedByKeysAndKeepsItsPlaceUntilClosed) 
     const QPoint chosen = help.pos();
     showOrQuit(CommonDialog::ShowTopic);
     EXPECT_EQ(help.pos(), chosen);
+    const QRect room = window.screen()->availableGeometry();
+    window.move(room.right() - window.width() - share(100), 300);
+    help.move(window.pos());  // where it would cover the form
+    showOrQuit(CommonDialog::Quit);
+    showOrQuit(CommonDialog::ShowTopic);
+    EXPECT_EQ(help.frameGeometry().left(), window.frameGeometry().right() + 1);
+    EXPECT_EQ(help.frameGeometry().right(), room.right());
     ASSERT_EQ(list.topLevelItemCount(), 2);
     ASSERT_EQ(list.topLevelItem(1)->childCount(), 2);
     EXPECT_TRUE(list.topLevelItem(1)->isExpanded());
