@@ -11,7 +11,7 @@ TEST(HelpTextTest, ShowsATopicWithoutLinksOrImagesOrSaysWhyItCannot) {
     const std::string picture = folder / "dot.png";
     QImage(1, 1, QImage::Format_RGB32).save(picture.c_str());
     WriteBytes(folder / "short", "94 ahead\n# 9 Nine\nnine\n# 94 Topic\ntext\n## 9 Part\nend\n");
-    WriteBytes(folder / "long", "# 94 Topic\n" + std::string(300 << 10, '\n'));
+    WriteBytes(folder / "long", "#  94 Topic\n" + std::string(300 << 10, '\n'));
     WriteBytes(folder / "linked", "# 94 [A *b*](file:///c)\n![d](" + picture +
                                       ") <http://e.org> <img src=\"" + picture + "\">\n");
     WriteBytes(folder / "table", "# 94 T\n\n| a | b |\n| --- | --- |\n| c | d |\n");
@@ -175,6 +175,7 @@ TEST_F(WindowTest, HelpHasItsLayoutIsSearchedByKeysAndKeepsItsPlaceUntilClosed) 
         EXPECT_TRUE(QTest::qWaitForWindowActive(&help) && !said.isVisible());
         EXPECT_TRUE(page.hasFocus() && page.textCursor().position() == 0);
     }
+    EXPECT_EQ(labels[1]->width(), labels[1]->sizeHint().width()) << "beside an empty row";
     showOrQuit(CommonDialog::Quit);
     EXPECT_FALSE(help.isVisible());
     std::string lines;

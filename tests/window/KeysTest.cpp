@@ -20,7 +20,8 @@ void Hold(QKeyCombination key, const QString& text) {
 }
 
 TEST_F(WindowTest, AChordTypesNothingAndAHeldKeyPressesAButtonOnce) {
-    Open({GoodPhase(EruptionType::Vulcanian)});
+    Open(std::vector(3, GoodPhase(EruptionType::Vulcanian)));
+    form.CurPhase = 2;
     constexpr auto altGr = Qt::CTRL | Qt::ALT;
     constexpr auto keypad5 = QKeyCombination(Qt::ControlModifier | Qt::KeypadModifier, Qt::Key_5);
     constexpr auto level5 = QKeyCombination(Qt::GroupSwitchModifier, Qt::Key_5);
@@ -49,6 +50,8 @@ TEST_F(WindowTest, AChordTypesNothingAndAHeldKeyPressesAButtonOnce) {
         {"cmdDelete", Qt::CTRL | Qt::Key_O, "\x0F", form.cmdOpen.Click, 1, ""},
         {"cmdDelete", Qt::CTRL | Qt::Key_S, "\x13", form.Command2.Click, 1, ""},
         {"cmdDelete", Qt::Key_F1, "", form.cmdHelp.Click, 1, ""},
+        {"cmdDelete", Qt::CTRL | Qt::Key_PageUp, "", form.cmbPhase.Click, 3, ""},
+        {"cmdDelete", Qt::CTRL | Qt::Key_PageDown, "", form.cmbPhase.Click, 3, ""},
         {"chkDirected", Qt::Key_Space, " ", form.chkDirected.Click, 1, ""},
         {"optSmall", Qt::Key_Space, " ", form.optSmall.Click, 1, ""},
     };

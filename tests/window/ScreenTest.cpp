@@ -267,6 +267,9 @@ TEST_F(ScreenTest, WidgetsAndTheWindowHaveTheirMarksAlignmentsPointersAndIcons) 
             part(check ? QStyle::SE_CheckBoxContents : QStyle::SE_RadioButtonContents);
         const int size = button->fontMetrics().ascent();
         EXPECT_EQ(mark.size(), QSize(size, size));
+        const QRect words = button->style()->itemTextRect(
+            button->fontMetrics(), {}, Qt::TextShowMnemonic, false, button->text());
+        EXPECT_EQ(button->sizeHint(), QSize(size + size / 3 + words.width(), words.height()));
         EXPECT_LE(std::abs(mark.center().y() - button->rect().center().y()), 1);
         EXPECT_EQ(check ? mark.right() : mark.left(),
                   check ? button->rect().right() : button->rect().left());

@@ -28,22 +28,26 @@ TEST(IniSettingsTest, TheUsersValueComesFirstAndIsReadByteForByte) {
     EXPECT_EQ(read("DataPath"), "/system") << "without waiting for the pipe";
 }
 
-// Replaces the C library's: a folder named `failing` cannot be flushed.
+// Replaces the C library's: a folder whose name is a number fails with that error.
 extern "C" int fsync(int file) {
     const auto path = std::filesystem::read_symlink("/proc/self/fd/" + std::to_string(file));
-    errno = EIO;
-    return path.filename() == "failing" ? -1 : static_cast<int>(syscall(SYS_fsync, file));
+    errno = std::atoi(path.filename().c_str());
+    return errno != 0 ? -1 : static_cast<int>(syscall(SYS_fsync, file));
 }
 
 TEST(FileDeviceTest, AFileAndItsFolderAreFlushedAndADeviceWithoutFlushCountsAsFlushed) {
     const TempFolder folder;
-    std::filesystem::create_directories(folder / "failing");
-    for (const char* const made : {"a.rec", "failing/a.rec"}) WriteBytes(folder / made, "");
+    WriteBytes(folder / "a.rec", "");
+    for (const int error : {EIO, ENOSPC, EINVAL, EROFS, ENOTSUP, ENOSYS}) {
+        const std::string failing = folder / std::to_string(error);
+        std::filesystem::create_directories(failing);
+        WriteBytes(failing + "/a.rec", "");
+        EXPECT_EQ(FileDevice().Flush(failing + "/a.rec"), error != EIO && error != ENOSPC);
+    }
     std::filesystem::create_symlink("a.rec", folder / "link.rec");
     std::filesystem::create_symlink("/dev/full", folder / "full.rec");
-    const std::pair<const char*, bool> rows[] = {{"a.rec", true},    {"link.rec", true},
-                                                 {"full.rec", true}, {"no.rec", false},
-                                                 {"", false},        {"failing/a.rec", false}};
+    const std::pair<const char*, bool> rows[] = {
+        {"a.rec", true}, {"link.rec", true}, {"full.rec", true}, {"no.rec", false}, {"", false}};
     for (const auto& [name, flushed] : rows) {
         EXPECT_EQ(FileDevice().Flush(folder / name), flushed) << name;
     }

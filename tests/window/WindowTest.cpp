@@ -66,9 +66,9 @@ TEST_F(WindowTest, FocusSelectsAllAClickMovesTheCaretAndACorrectionPutsItAtTheEn
         EXPECT_EQ(form.txtWind.SelLength(), 2U) << "though the widget shows it no more";
     }
     mouseClick(wind, Qt::LeftButton);
-    form.txtWind.Select(0, 1);
+    form.txtWind.Select(1, 1);
     window.RunPendingEvents();
-    EXPECT_EQ(wind->selectedText(), "1");
+    EXPECT_EQ(wind->selectedText(), "0");
     keyClick(wind, Qt::Key_Return);
     EXPECT_EQ(form.txtWind.SelLength(), 1U);
     for (const int place : {1, 2}) {
@@ -84,6 +84,7 @@ TEST_F(WindowTest, FocusSelectsAllAClickMovesTheCaretAndACorrectionPutsItAtTheEn
     keyClick(wind, Qt::Key_5);
     keyClick(wind, Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(form.txtWind.Text(), "10");
+    EXPECT_EQ(form.txtWind.SelLength(), 2U) << "selected again by the undo";
     keyClick(wind, Qt::Key_Tab);
     mouseClick(part, Qt::LeftButton, {}, QPoint(2, 5));
     EXPECT_EQ(part->cursorPosition(), 0);
@@ -123,7 +124,7 @@ TEST_F(WindowTest, OnlyAChoiceInTheOpenListIsAPick) {
     for (const auto by : QList<QKeyCombination>{Qt::Key_Up, Qt::Key_Down, Qt::ALT | Qt::Key_Down}) {
         list->setFocus();
         list->lineEdit()->selectAll();
-        QTest::keyClicks(list, "Erosion");
+        QTest::keyClicks(list, "Ero");
         keyClick(list, Qt::Key_Return);
         QApplication::sendEvent(list, &wheel);
         keyClick(list, by.key(), by.keyboardModifiers());
@@ -131,7 +132,8 @@ TEST_F(WindowTest, OnlyAChoiceInTheOpenListIsAPick) {
         keyClick(list->view(), Qt::Key_Home);
         keyClick(list->view(), Qt::Key_Escape);
         EXPECT_FALSE(list->view()->isVisible());
-        EXPECT_EQ(form.cmbType.Text(), "Erosion");
+        EXPECT_EQ(form.cmbType.Text(), "Ero");
+        QTest::keyClicks(list, "sion\r");
         form.cmbType.SetText("Faulting");
         window.RunPendingEvents();
         Find("txtLoc")->setFocus();
@@ -239,6 +241,8 @@ TEST_F(WindowTest, OnlyTheFirstCloseUnloads) {
         byForm ? window.Unload() : void(window.close());
         EXPECT_EQ(times, 1);
     }
+    { const FormWindow second(form); }
+    EXPECT_FALSE(form.Observer) << "of a window that is gone";
 }
 
 TEST_F(WindowTest, AMessageHasItsTextTitleAndIconAndTheFormShowsTheLatestState) {
