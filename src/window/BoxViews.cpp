@@ -1,6 +1,5 @@
 #include "window/BoxViews.h"
 
-#include <QAbstractItemView>
 #include <QCursor>
 #include <QFocusEvent>
 #include <QLineEdit>
@@ -100,8 +99,7 @@ ComboBoxView::ComboBoxView(const ViewParts& parts) : ViewOf(parts) {
     widget.setPalette(pale);  // the frame keeps the desktop's highlight to show the focus
     pale.setColor(QPalette::Highlight, QColor(0, 84, 147));
     pale.setColor(QPalette::HighlightedText, Qt::white);
-    widget.view()->setPalette(pale);
-    widget.lineEdit()->setPalette(pale);
+    widget.SetTextPalette(pale);
     if (Row().look == Look::CustomPointer) {
         const QCursor hand(QPixmap(":/window/down-32.xpm"), 12, 1);
         widget.setCursor(hand);

@@ -47,6 +47,20 @@ QSize ListBox::SizeFor(const QString& shown) {
     return line->SizeFor(shown) + size() - inside.size();
 }
 
+void ListBox::SetTextPalette(const QPalette& palette) {
+    textPalette = palette;
+    line->setPalette(palette);
+    view()->setPalette(palette);
+}
+
+// When the desktop's colours change, the toolkit gives the line the palette of the box.
+void ListBox::changeEvent(QEvent* event) {
+    QComboBox::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        line->setPalette(textPalette);
+    }
+}
+
 void ListBox::showPopup() {
     const int wanted = view()->sizeHintForColumn(0) + 2 * view()->frameWidth() +
                        view()->verticalScrollBar()->sizeHint().width();

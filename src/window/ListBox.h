@@ -20,6 +20,9 @@ public:
     /// at its current size. Resizes the line in the box.
     QSize SizeFor(const QString& shown);
 
+    /// Sets the palette of the text and of the open list.
+    void SetTextPalette(const QPalette& palette);
+
     void showPopup() override;
     void hidePopup() override;
 
@@ -30,6 +33,7 @@ signals:
 
 protected:
     void initStyleOption(QStyleOptionComboBox* option) const override;
+    void changeEvent(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void focusOutEvent(QFocusEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
@@ -40,5 +44,6 @@ private:
 
     TextLine* line;
     QStringListModel* entries;
+    QPalette textPalette;
     bool justClosed = false;  // the list closed, without a key press or loss of focus since
 };

@@ -215,6 +215,7 @@ TEST_F(ScreenTest, FieldsAreReadableInLightAndDarkAndWhenGreyed) {
         QPalette desktop(QColor(grey, grey, grey));
         desktop.setColor(QPalette::HighlightedText, Qt::black);
         QApplication::setPalette(desktop);
+        QApplication::processEvents();  // the widgets follow then
         QWidgetList coloured{themed.findChild<QWidget*>("labPhases")};
         for (auto* const list : themed.findChildren<QComboBox*>()) {
             coloured << list->lineEdit() << list->view();
