@@ -54,7 +54,6 @@ void TextBoxView::ForwardKey() {
     RememberLastBox();
     const std::string text = ShownText();
     control.PressKey(text, BytePlace(text, widget.cursorPosition()));
-    ForwardSelection();
 }
 
 void TextBoxView::ForwardEdit() {

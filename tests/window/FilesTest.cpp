@@ -245,7 +245,7 @@ TEST_F(FilesTest, ADialogShowsWholeNamesOnOneLineAndEntersASelectedFolder) {
     form.CD1.Flags = CommonDialog::MustExist;
     form.CD1.InitDir = folder / "";
     form.CD1.FileName.clear();
-    form.CD1.Filter = "Some (*.rec)|*.rec;*.REC|All files|*|";
+    form.CD1.Filter = "Some (*.rec)|*.rec;*.REC|All files|*";
     form.CD1.FilterIndex = 2;
     EXPECT_FALSE(chooser.AskOpen(form.CD1));
 }

@@ -93,6 +93,10 @@ TEST_F(ScreenTest, ASmallWindowScrollsToTheFocusAndByTheWheelWhichChangesNoValue
 }
 
 TEST_F(ScreenTest, AtAnyImposedSizeTheFormIsCentredOrScrolls) {
+    EXPECT_EQ(window.size(), formSize);
+    const QPoint place = window.pos();
+    window.Move(9000, 6000);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window.pos() != place; }));
     const auto resize = [this](int width, int height) {
         return [this, width, height] { window.windowHandle()->resize(width, height); };
     };
