@@ -280,8 +280,8 @@ TEST_F(ScreenTest, WidgetsAndTheWindowHaveTheirMarksAlignmentsPointersAndIcons) 
                   check ? button->rect().right() : button->rect().left());
         EXPECT_EQ(check ? mark.left() - text.right() : text.left() - mark.right(), size / 3 + 1);
         EXPECT_EQ(check ? text.left() : text.right(), check ? 0 : button->rect().right());
-        const QRect between(QPoint(std::min(mark.right(), text.right()) + 1, 0),
-                            QPoint(std::max(mark.left(), text.left()) - 1, button->height() - 1));
+        const QRect between(QPoint(std::min(mark.right(), text.right()) + 2, 0),
+                            QPoint(std::max(mark.left(), text.left()) - 2, button->height() - 1));
         for (const QRect& rect : {mark, text, between}) {
             EXPECT_EQ(IsDrawn(*button, rect), rect != between);
         }
