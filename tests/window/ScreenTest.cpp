@@ -62,9 +62,7 @@ TEST_F(ScreenTest, TheWindowIsCentredWithItsFrameOrFillsASmallScreen) {
 
 TEST_F(ScreenTest, ASmallWindowScrollsToTheFocusAndByTheWheelWhichChangesNoValue) {
     const auto fitted = Centred(small);
-    for (Control* control : form.Controls()) {
-        control->SetEnabled(true);
-    }
+    for (Control* control : form.Controls()) control->SetEnabled(true);
     fitted->RunPendingEvents();
     const QScrollBar& bar = *fitted->findChild<QScrollArea*>()->verticalScrollBar();
     const auto values = [&fitted] {
@@ -141,13 +139,13 @@ TEST(FormAreaTest, AsksForRoomForItsScrollBarsAndRevealsAWidgetWithItsLabel) {
     area.resize(150, 100);
     area.show();
     area.Reveal(box);
-    EXPECT_EQ(area.horizontalScrollBar()->value() + area.viewport()->width(), 220 + 12);
-    EXPECT_EQ(area.verticalScrollBar()->value() + area.viewport()->height(), 140 + 12);
-    area.verticalScrollBar()->setValue(200);
-    area.horizontalScrollBar()->setValue(300);
+    auto &across = *area.horizontalScrollBar(), &down = *area.verticalScrollBar();
+    EXPECT_EQ(QPoint(across.value(), down.value()) + area.viewport()->rect().bottomRight(),
+              QPoint(220 + 11, 140 + 11));
+    down.setValue(200);
+    across.setValue(300);
     area.Reveal(box);
-    EXPECT_EQ(area.horizontalScrollBar()->value(), 150 - 12);
-    EXPECT_EQ(area.verticalScrollBar()->value(), 100 - 12);
+    EXPECT_EQ(QPoint(across.value(), down.value()), QPoint(150 - 12, 100 - 12));
 }
 
 // Passes for the platform's window under Wayland, which calls itself to apply an imposed size.
@@ -263,8 +261,10 @@ TEST_F(ScreenTest, WidgetsAndTheWindowHaveTheirMarksAlignmentsPointersAndIcons) 
         QStyleOptionButton option;
         option.initFrom(button);
         const bool check = qobject_cast<QCheckBox*>(button);
+        // In a left-to-right layout: a check box is mirrored.
         const auto part = [&](QStyle::SubElement of) {
-            return button->style()->subElementRect(of, &option, button);
+            return QStyle::visualRect(option.direction, option.rect,
+                                      button->style()->subElementRect(of, &option, button));
         };
         const QRect mark =
             part(check ? QStyle::SE_CheckBoxIndicator : QStyle::SE_RadioButtonIndicator);
@@ -276,14 +276,13 @@ TEST_F(ScreenTest, WidgetsAndTheWindowHaveTheirMarksAlignmentsPointersAndIcons) 
             button->fontMetrics(), {}, Qt::TextShowMnemonic, false, button->text());
         EXPECT_EQ(button->sizeHint(), QSize(size + size / 3 + words.width(), words.height()));
         EXPECT_LE(std::abs(mark.center().y() - button->rect().center().y()), 1);
-        EXPECT_EQ(check ? mark.right() : mark.left(),
-                  check ? button->rect().right() : button->rect().left());
-        EXPECT_EQ(check ? mark.left() - text.right() : text.left() - mark.right(), size / 3 + 1);
-        EXPECT_EQ(check ? text.left() : text.right(), check ? 0 : button->rect().right());
-        const QRect between(QPoint(std::min(mark.right(), text.right()) + 2, 0),
-                            QPoint(std::max(mark.left(), text.left()) - 2, button->height() - 1));
+        EXPECT_EQ(mark.left(), 0);
+        EXPECT_EQ(text.left() - mark.right(), size / 3 + 1);
+        EXPECT_EQ(text.right(), button->width() - 1);
+        const QRect between(mark.right() + 2, 0, size / 3 - 2, button->height());
         for (const QRect& rect : {mark, text, between}) {
-            EXPECT_EQ(IsDrawn(*button, rect), rect != between);
+            const QRect shown = QStyle::visualRect(option.direction, option.rect, rect);
+            EXPECT_EQ(IsDrawn(*button, shown), rect != between);
         }
     }
     for (const CatalogueRow& row : Catalogue()) {

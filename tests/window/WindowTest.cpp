@@ -157,9 +157,7 @@ TEST_F(WindowTest, OnlyAChoiceInTheOpenListIsAPick) {
 }
 
 TEST_F(WindowTest, TabVisitsEachControlOnceAndTheFocusIsVisible) {
-    for (Control* control : form.Controls()) {
-        control->SetEnabled(true);
-    }
+    for (Control* control : form.Controls()) control->SetEnabled(true);
     window.RunPendingEvents();
     Find("cmbPhase")->setFocus();
     QStringList passed;
