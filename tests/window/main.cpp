@@ -19,6 +19,8 @@ int main(int argc, char** argv) {
                       .toLatin1());
     screens.close();
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + screens.fileName().toLocal8Bit());
+    qputenv("FONTCONFIG_FILE", TEPHREX_FONTS);  // sizes depend on the font
+    qputenv("XDG_CACHE_HOME", settings.path().toLocal8Bit());
     qputenv("XDG_CONFIG_HOME", settings.path().toLocal8Bit());
     qputenv("XDG_CONFIG_DIRS", settings.filePath("system").toLocal8Bit());
     const QApplication application(argc, argv);
