@@ -184,7 +184,6 @@ void FileNameDialog::Offer(const QString& folder, const QString& name) {
     offered = name;
     offeredPath = (folder.endsWith('/') ? folder : folder + '/') + name;
     box.setText(name);
-    box.selectAll();
 }
 
 void FileNameDialog::accept() {

@@ -186,10 +186,12 @@ TEST(SizeLimitsTest, AreLiftedWhileASizeIsImposedUnderWaylandAndReturnAfterwards
             EXPECT_NE(window.size(), own);
             EXPECT_EQ(handle.minimumSize() == own, !needed);
             window.showNormal();
-            QApplication::processEvents();
+            const auto hasLimits = [&] { return handle.minimumSize() == own; };
+            EXPECT_TRUE(QTest::qWaitFor(hasLimits));
             QMetaObject::invokeMethod(
                 &platformWindow, [] {}, Qt::QueuedConnection);
-            EXPECT_TRUE(QTest::qWaitFor([&] { return handle.minimumSize() == own; }));
+            QApplication::processEvents();
+            EXPECT_TRUE(QTest::qWaitFor(hasLimits));
         }
     }
 }
@@ -279,10 +281,12 @@ TEST_F(ScreenTest, WidgetsAndTheWindowHaveTheirMarksAlignmentsPointersAndIcons) 
         EXPECT_EQ(mark.left(), 0);
         EXPECT_EQ(text.left() - mark.right(), size / 3 + 1);
         EXPECT_EQ(text.right(), button->width() - 1);
+        const QRect corner(mark.topLeft(), QSize(size / 8, size / 8));  // empty for a circle
         const QRect between(mark.right() + 2, 0, size / 3 - 2, button->height());
-        for (const QRect& rect : {mark, text, between}) {
+        for (const auto& [rect, drawn] :
+             {std::pair{mark, true}, {corner, check}, {text, true}, {between, false}}) {
             const QRect shown = QStyle::visualRect(option.direction, option.rect, rect);
-            EXPECT_EQ(IsDrawn(*button, shown), rect != between);
+            EXPECT_EQ(IsDrawn(*button, shown), drawn);
         }
     }
     for (const CatalogueRow& row : Catalogue()) {

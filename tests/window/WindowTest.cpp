@@ -66,9 +66,10 @@ TEST_F(WindowTest, FocusSelectsAllAClickMovesTheCaretAndACorrectionPutsItAtTheEn
         EXPECT_EQ(form.txtWind.SelLength(), 2U) << "though the widget shows it no more";
     }
     mouseClick(wind, Qt::LeftButton);
+    form.txtWind.SetText("123");
     form.txtWind.Select(1, 1);
     window.RunPendingEvents();
-    EXPECT_EQ(wind->selectedText(), "0");
+    EXPECT_EQ(wind->selectedText(), "2");
     keyClick(wind, Qt::Key_Return);
     EXPECT_EQ(form.txtWind.SelLength(), 1U);
     for (const int place : {1, 2}) {
@@ -77,6 +78,7 @@ TEST_F(WindowTest, FocusSelectsAllAClickMovesTheCaretAndACorrectionPutsItAtTheEn
         EXPECT_EQ(wind->cursorPosition(), place);
         EXPECT_EQ(wind->selectedText(), "");
     }
+    form.txtWind.SetText("10");
     mouseClick(wind, Qt::LeftButton, {}, QPoint(2, 5));
     EXPECT_EQ(form.txtWind.SelLength(), 0U);
     mouseClick(part, Qt::LeftButton);
@@ -224,7 +226,13 @@ TEST_F(WindowTest, AChangeOutsideAUserActionIsShownSoon) {
     }
 }
 
-TEST_F(WindowTest, ASelectedOptionStaysSelectedWhenClickedAgain) {
+TEST_F(WindowTest, AClickTurnsACheckBoxOnAndOffAndLeavesASelectedOptionSelected) {
+    form.chkDirected.SetEnabled(true);
+    window.RunPendingEvents();
+    for (const int value : {1, 0}) {
+        Find<QAbstractButton>("chkDirected")->click();
+        EXPECT_EQ(form.chkDirected.Value(), value);
+    }
     auto* const small = Find<QAbstractButton>("optSmall");
     small->click();
     small->click();
