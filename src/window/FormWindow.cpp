@@ -61,7 +61,6 @@ FormWindow::FormWindow(RecordEdit& ownForm)
     scale = FittingScale(views, form);
     area->Page()->resize(Pixels(FormWidth), Pixels(FormHeight));
     PlaceViews();
-    StackViews();
     ChainTabs();
     NameViews();
     AddShortcuts(*this, form, mirror);
@@ -99,13 +98,6 @@ void FormWindow::PlaceViews() {
         view->Widget().setContentsMargins(0, 0, Pixels(CoveredWidth(row)), 0);
         view->Widget().setGeometry(Pixels(row.left), Pixels(row.top), Pixels(row.width),
                                    Pixels(row.height));
-    }
-}
-
-// Labels are at the bottom; other controls cover those before them in the tab order.
-void FormWindow::StackViews() {
-    for (const View* view : InTabOrder(views)) {
-        view->Widget().raise();
     }
 }
 

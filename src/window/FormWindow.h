@@ -52,7 +52,6 @@ protected:
 private:
     void MakeViews();
     void PlaceViews();
-    void StackViews();
     void ChainTabs();
     void NameViews();
     void FollowFocus(QWidget* now);

@@ -222,6 +222,11 @@ TEST_F(FilesTest, ADialogShowsWholeNamesOnOneLineAndEntersASelectedFolder) {
         auto* const box = dialog->findChild<QLineEdit*>();
         const QModelIndex any = list->model()->index(0, 0, list->rootIndex());
         const QModelIndex inner = list->model()->match(any, Qt::DisplayRole, "<b>fol").value(0);
+        box->setText("ab");
+        box->setCursorPosition(1);
+        box->insert("\u2028");
+        EXPECT_EQ(box->cursorPosition(), 2);
+        box->clear();
         const auto select = [&] {
             mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualRect(inner).center());
         };

@@ -252,6 +252,7 @@ TEST_F(ScreenTest, FieldsAreReadableInLightAndDarkAndWhenGreyed) {
     }
     for (const auto role : {QPalette::Text, QPalette::WindowText})
         expectColour(&Page(themed), QPalette::Disabled, role, 0xFF606060);  // from black, on 239
+    expectColour(&Page(themed), QPalette::Disabled, QPalette::Base, 0xFFEFEFEF);
     QApplication::setPalette(usual);
 }
 
