@@ -11,9 +11,7 @@ std::string Printed(const TempFolder& folder, const std::string& arguments) {
     setenv("TERM", "xterm", 1);
     FILE* const output = popen(("(" + command + ") 2>&1; echo \"= $?\"").c_str(), "r");
     std::string text;
-    for (int c = 0; (c = std::fgetc(output)) != EOF;) {
-        text += static_cast<char>(c);
-    }
+    for (int c = 0; (c = std::fgetc(output)) != EOF;) text += static_cast<char>(c);
     pclose(output);
     return text;
 }
@@ -33,12 +31,8 @@ TEST(CheckProgramTest, EachCommandLineHasItsOutputAndExitsWithTheWorstStatus) {
     std::filesystem::create_directories(folder / ".rec");
     WriteBytes(folder / ".rec/.rec", "");
     std::string many = "\"Stratigraphic file:\",\n\"Recorded phases\",99,20";
-    for (int i = 0; i < 99; ++i) {
-        many += ",,\"Record Phase: \"" + std::string(28, ',');
-    }
-    for (const char* const name : {"long/1.rec", "long/2.rec"}) {
-        WriteBytes(folder / name, many);
-    }
+    for (int i = 0; i < 99; ++i) many += ",,\"Record Phase: \"" + std::string(28, ',');
+    for (const char* const name : {"long/1.rec", "long/2.rec"}) WriteBytes(folder / name, many);
     WriteBytes(folder / "[\n\xE9\"]", demo + ',');
     const std::string warning = "all/b-w.rec:2: warning: 0 is judged as 20 (scale)\n";
     const std::string fault =

@@ -31,9 +31,7 @@ protected:
             {&form.chkCald.Click, "Check"},  {&form.cmbFlow.Click, "Pick"},
             {&form.optLarge.Click, "Large"}, {&form.optSmall.Click, "Small"},
             {&form.cmdHelp.Click, "Press"}};
-        for (const auto& [event, name] : events) {
-            *event = [this, text = name] { log += text; };
-        }
+        for (const auto& [event, name] : events) *event = [this, text = name] { log += text; };
     }
     std::string After(const std::string& actions) {
         log.clear();
@@ -58,9 +56,7 @@ TEST_F(ControlsTest, AUserActionStoresThenCallsTheObserverThenRaisesItsEvent) {
         {"press cmdHelp, press cmdHelp", "PressPress"},
         {"focus txtLoc, focus txtLoc", "Focus"},
         {"focus cmbFlow, focus txtLoc, mouse txtLoc", "FocusMouse"}};
-    for (const auto& [actions, logged] : rows) {
-        EXPECT_EQ(After(actions), logged) << actions;
-    }
+    for (const auto& [actions, logged] : rows) EXPECT_EQ(After(actions), logged) << actions;
     for (const bool hidden : {false, true}) {
         for (Control* each : form.Controls()) {
             each->SetEnabled(hidden);
@@ -78,9 +74,7 @@ TEST_F(ControlsTest, AUserActionStoresThenCallsTheObserverThenRaisesItsEvent) {
 }
 
 TEST_F(ControlsTest, CodeSetsDisabledControlsAndASetterThatChangesNothingRaisesNoEvent) {
-    for (Control* each : form.Controls()) {
-        each->SetEnabled(false);
-    }
+    for (Control* each : form.Controls()) each->SetEnabled(false);
     log.clear();
     for (int i = 0; i < 2; ++i) {
         box.SetText("a");
@@ -132,9 +126,7 @@ TEST_F(ControlsTest, AHandlerThatRewritesItsBoxReadsTheNewTextAndTheSelectionSta
 // The 64-bit FNV-1a hash.
 std::uint64_t Digest(const std::string& text) {
     std::uint64_t digest = 0xCBF29CE484222325;
-    for (const char c : text) {
-        digest = (digest ^ static_cast<unsigned char>(c)) * 0x100000001B3;
-    }
+    for (const char c : text) digest = (digest ^ static_cast<unsigned char>(c)) * 0x100000001B3;
     return digest;
 }
 
@@ -142,9 +134,7 @@ TEST_F(FormTest, TabsAreUniqueAndControlsFitIntoTheirFramesAndOnlyFourPairsOverl
     std::set<int> tabs;
     std::set<std::string> overlaps;
     for (const CatalogueRow& row : Catalogue()) {
-        if (row.kind == ControlKind::CommonDialog) {
-            continue;
-        }
+        if (row.kind == ControlKind::CommonDialog) continue;
         EXPECT_TRUE(tabs.insert(row.tab).second) << row.name;
         int width = FormWidth, height = FormHeight;
         for (const CatalogueRow& other : Catalogue()) {

@@ -55,12 +55,8 @@ public:
 
     /// Prepares the answer to the next dialog, perhaps a damaged file.
     void PrepareAnswer() {
-        if (choose(4) == 0) {
-            Damage();
-        }
-        if (choose(8) != 0) {
-            platform.answers.push_back(folder / OneOf(Names));
-        }
+        if (choose(4) == 0) Damage();
+        if (choose(8) != 0) platform.answers.push_back(folder / OneOf(Names));
     }
 
     /// Which invariant does not hold now; empty if all do.
@@ -90,9 +86,7 @@ private:
 
     // A random verb and text for the control. Also prepares the answer to the dialog of a button.
     std::pair<std::string, std::string> ActionFor(const Control& control) {
-        if (choose(16) == 0) {
-            return {choose(2) == 0 ? "mouse" : "focus", ""};
-        }
+        if (choose(16) == 0) return {choose(2) == 0 ? "mouse" : "focus", ""};
         if (const auto* box = dynamic_cast<const TextBox*>(&control)) {
             const std::string typed = box->Text() + "0123456789.,-+eE x\"\xff"[choose(19)];
             return {choose(4) == 0 ? "edit" : "key", choose(2) == 0 ? OneOf(Numbers) : typed};
@@ -138,13 +132,9 @@ private:
 
     // After a display the activation rules have nothing left to change.
     std::string BrokenActivation() {
-        if (!displayed || !platform.messages.empty()) {
-            return "";
-        }
+        if (!displayed || !platform.messages.empty()) return "";
         std::vector<bool> before;
-        for (const Control* control : form.Controls()) {
-            before.push_back(control->Enabled());
-        }
+        for (const Control* control : form.Controls()) before.push_back(control->Enabled());
         DataActivate(form, form.CurType);
         std::string broken;
         for (std::size_t i = 0; i < before.size(); ++i) {

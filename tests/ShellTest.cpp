@@ -37,9 +37,7 @@ TEST_F(FormTest, EachControlThatTakesUserActionsHasItsHandlers) {
         } else if (const auto* option = dynamic_cast<const OptionButton*>(control)) {
             events = {&option->Click};
         }
-        for (const Event* event : events) {
-            EXPECT_TRUE(*event) << control->Name();
-        }
+        for (const Event* event : events) EXPECT_TRUE(*event) << control->Name();
     }
 }
 
@@ -133,15 +131,11 @@ TEST_F(FormTest, ChoicesAreIgnoredWhileTheFormIsBeingFilled) {
     Open({phase}, {100, 200});
     const auto before = std::make_unique<EditorState>(form);
     form.FormFilling = true;
-    for (Control* control : form.Controls()) {
-        control->SetEnabled(control != &form.Command2);
-    }
+    for (Control* control : form.Controls()) control->SetEnabled(control != &form.Command2);
     Pick(form.cmbFlow, "Flow 2 Duration");
     Pick(form.cmbStyle, "Valles Type");
     Pick(form.cmbDown, "Right side down");
-    for (CheckBox* box : {&form.chkCald, &form.chkDirected, &form.chkBurst}) {
-        box->Toggle();
-    }
+    for (CheckBox* box : {&form.chkCald, &form.chkDirected, &form.chkBurst}) box->Toggle();
     EXPECT_TRUE(form.EditPhases == before->EditPhases && !form.Command2.Enabled());
     EXPECT_EQ(form.txtLava.Text(), "100.0");
 }

@@ -20,9 +20,7 @@ inline std::string NumberText(double number) {
 
 inline std::string Joined(const Items& items, const std::string& between) {
     std::string text;
-    for (const std::string& item : items) {
-        text += (text.empty() ? "" : between) + item;
-    }
+    for (const std::string& item : items) text += (text.empty() ? "" : between) + item;
     return text;
 }
 
@@ -136,9 +134,7 @@ private:
                     names += ' ' + (pair && name.starts_with("txt") ? rest : name);
                 }
             }
-            if (!names.empty()) {
-                items.push_back((on ? "on" : "off") + names);
-            }
+            if (!names.empty()) items.push_back((on ? "on" : "off") + names);
         }
         return items;
     }

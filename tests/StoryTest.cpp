@@ -31,9 +31,7 @@ public:
     /// Adds a phase: its type, then its fields. Without a type, sets more fields of the last phase.
     void Add(const std::string& words) {
         const auto [type, fields] = SplitOff(words);
-        if (!IsType(type)) {
-            return Set(words);
-        }
+        if (!IsType(type)) return Set(words);
         PhaseRecord& phase = state->LoadedPhases[++state->LoadedPhaseCount];
         phase = GoodPhase(static_cast<Integer>(Types.at(type)));
         phase.tectonicKind = type == "Erosion" ? TectonicKind::Erosion : phase.tectonicKind;
@@ -102,27 +100,19 @@ public:
         before = Look();
     }
     void AddDraws(const Items& numbers) {
-        for (const std::string& number : numbers) {
-            draws.push_back(std::stof(number));
-        }
+        for (const std::string& number : numbers) draws.push_back(std::stof(number));
     }
     std::vector<Items> Use(const UserAction& action) {
         Control* const control = form.Find(action.name);
-        if (control == nullptr) {
-            throw std::invalid_argument("no control " + action.name);
-        }
+        if (control == nullptr) throw std::invalid_argument("no control " + action.name);
         const std::string answering = "answering ";
         if (action.text.starts_with(answering)) {
             for (const std::string& name : WordsOf(action.text.substr(answering.size()))) {
                 platform.answers.emplace_back(name[0] == '/' ? name : folder / name);
-                if (name == "cancel") {
-                    platform.answers.back().reset();
-                }
+                if (name == "cancel") platform.answers.back().reset();
             }
         }
-        if (!control->AcceptsUserActions()) {
-            noted.push_back({"refused"});
-        }
+        if (!control->AcceptsUserActions()) noted.push_back({"refused"});
         const std::size_t asked = platform.asked.size() + platform.answers.size();
         Perform(*control, action.verb, action.text);
         EXPECT_EQ(platform.asked.size(), asked) << action.name << ": dialogs and answers";
@@ -302,19 +292,13 @@ std::string Wrapped(std::string line) {
 // A step and what it changes: on one line if there is room, otherwise with the changes below.
 std::string LaidOut(const std::string& step, const std::vector<Items>& outcome) {
     Items lines;
-    for (const Items& items : outcome) {
-        lines.push_back(Joined(items, "  "));
-    }
+    for (const Items& items : outcome) lines.push_back(Joined(items, "  "));
     const std::string padding(34 - std::min<std::size_t>(34, step.size()), ' ');
     const std::string line =
         step + padding + " : " + (lines.empty() ? "nothing" : Joined(lines, "  "));
-    if (line.size() <= Width) {
-        return line;
-    }
+    if (line.size() <= Width) return line;
     std::string text = step;
-    for (const std::string& each : lines) {
-        text += '\n' + Wrapped("    " + each);
-    }
+    for (const std::string& each : lines) text += '\n' + Wrapped("    " + each);
     return text;
 }
 
@@ -349,9 +333,7 @@ TEST_P(StoryTest, MatchesWhatHappens) {
 Items Stories() {
     Items names;
     for (const auto& file : std::filesystem::directory_iterator(TEPHREX_STORIES)) {
-        if (file.path().extension() == ".txt") {
-            names.push_back(file.path().filename());
-        }
+        if (file.path().extension() == ".txt") names.push_back(file.path().filename());
     }
     return names;
 }

@@ -30,9 +30,7 @@ struct Message {
 /// Removes the first item of a queue and returns it; `none` if the queue is empty.
 template <class Item>
 Item TakeFirst(std::deque<Item>& queue, std::type_identity_t<Item> none) {
-    if (queue.empty()) {
-        return none;
-    }
+    if (queue.empty()) return none;
     Item first = std::move(queue.front());
     queue.pop_front();
     return first;
@@ -60,9 +58,7 @@ public:
 
     void Show(const std::string& text, MessageIcon icon, std::string_view title) override {
         messages.push_back({text, icon, std::string(title)});
-        if (whileMessageShows) {
-            whileMessageShows();
-        }
+        if (whileMessageShows) whileMessageShows();
     }
     bool AskOpen(CommonDialog& dialog) override { return Ask("to open", dialog); }
     bool AskSave(CommonDialog& dialog) override { return Ask("to save", dialog); }

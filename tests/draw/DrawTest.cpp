@@ -115,9 +115,7 @@ void ExpectInPlace(const Page& page) {
             EXPECT_TRUE(paper.contains(shape.path.boundingRect().adjusted(-pen, -pen, pen, pen)))
                 << "phase " << group.phase << " mark " << static_cast<int>(shape.mark);
         }
-        for (const Text& text : group.texts) {
-            rooms.emplace_back(WideRoom(text), text.text);
-        }
+        for (const Text& text : group.texts) rooms.emplace_back(WideRoom(text), text.text);
     }
     std::sort(rooms.begin(), rooms.end(),
               [](const auto& a, const auto& b) { return a.first.top() < b.first.top(); });
@@ -184,9 +182,7 @@ TEST(DrawTest, NoTextOverlapsAnotherOrLeavesThePage) {
         const Drawing drawing = DrawRecord(*record.state, row.name, {row.width, row.tallest});
         ExpectWhole(drawing, row.phases);
         EXPECT_EQ(drawing.pages.size() > 1, row.tallest < AnyHeight && row.phases > 1);
-        for (const Page& page : drawing.pages) {
-            ExpectInPlace(page);
-        }
+        for (const Page& page : drawing.pages) ExpectInPlace(page);
     }
 }
 
@@ -256,9 +252,7 @@ TEST(DrawTest, TheLegendListsOnlyWhatOccurs) {
     record.Add(EruptionType::Hawaiian);
     const Drawing drawing = Draw(record);
     QStringList legend;
-    for (const Text& text : drawing.pages[0].groups.back().texts) {
-        legend += text.text;
-    }
+    for (const Text& text : drawing.pages[0].groups.back().texts) legend += text.text;
     EXPECT_EQ(legend.join("; ").toStdString(),
               "Hawaiian; Erosion; one wave per cycle; Flow durations against their ceilings");
 }
@@ -382,9 +376,7 @@ TEST(DrawTest, AnSvgIsWellFormedAndHasEachTextAsText) {
     EXPECT_FALSE(xml.hasError()) << xml.errorString().toStdString();
     QStringList drawn;
     for (const Group& group : drawing.pages[0].groups) {
-        for (const Text& text : group.texts) {
-            drawn += text.text;
-        }
+        for (const Text& text : group.texts) drawn += text.text;
     }
     EXPECT_EQ(shown, drawn);
     EXPECT_EQ(titles.value(0), drawing.title);
