@@ -19,8 +19,8 @@ bool ReadLines(QIODevice& file, QSettings::SettingsMap& values) {
         const qsizetype equals = line.indexOf('=');
         if (bare.startsWith('[') && bare.endsWith(']')) {
             group = QString::fromUtf8(bare.mid(1, bare.size() - 2)) + '/';
-        } else if (equals >
-                   0) {  // nothing asks for the key of a comment, which begins with its sign
+        } else if (equals > 0) {
+            // Nothing asks for the key of a comment, which begins with the comment's sign.
             const QString key = group + QString::fromUtf8(line.left(equals).trimmed());
             values[key.toLower()] = line.mid(equals + 1);
         }
