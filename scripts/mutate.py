@@ -276,6 +276,7 @@ def main():
     print(f"seed {seed}", flush=True)
     random.seed(seed)
     folder = Path(tempfile.mkdtemp(prefix="mutate"))
+    folder.chmod(0o755)  # some tests run as another user
     os.environ["TMPDIR"] = str(folder)  # a walk that is killed leaves files
     signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))
     try:
