@@ -151,6 +151,8 @@ const Change Changes[] = {
      "9: warning: phase 1: 41 is outside 0 to 40 (position3D)\n"
      "9: warning: phase 1: 12 is outside 1 to 11 (ventPosition)\n"
      "9: warning: phase 1: -1 is outside 0 to 9 (growth)\n"},
+    {"6,5,20,5,5,5", "6,1,0,11,0,5", ""},
+    {"6,5,20,5,5,5", "6,11,40,1,9,5", ""},
     {"5,1,10\n20,1,0,2\n0,0,4,0\n0,0,0,0,0\n6,5,20,5", "7,1,10\n20,0,0,0\n0,0,4,1\n0,0,0,0,0\n6,0,20,12",
      "9: warning: phase 1: 0 is outside 1 to 11 (craterSize)\n"
      "9: warning: phase 1: 12 is outside 1 to 11 (ventPosition)\n"},
