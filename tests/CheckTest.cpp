@@ -256,6 +256,17 @@ std::string Invalid(const std::string& findings) {
     return invalid;
 }
 
+TEST(CheckTest, TheWidestBoundsOfAFieldCoverAllTypes) {
+    const auto bounds = [](const PhaseField& field) {
+        const Bounds widest = WidestBounds(field, ScaleCode::Large);
+        return std::pair(widest.lowest.value_or(-999), widest.highest.value_or(999));
+    };
+    EXPECT_EQ(bounds(FieldOf(&PhaseRecord::strength)), std::pair(.1F, 2.F));
+    EXPECT_EQ(bounds(FieldOf(&PhaseRecord::wind)), std::pair(-50.F, 50.F));
+    EXPECT_EQ(bounds(FieldOf(&PhaseRecord::midRadius)), std::pair(-999.F, 640.F));
+    EXPECT_EQ(bounds(FieldOf(&PhaseRecord::speed)), std::pair(-999.F, 999.F));
+}
+
 TEST(CheckTest, EachLimitIsReportedWithItsLineAndValueAndAValueAtTheLimitPasses) {
     for (const Row& row : Rows) {
         EXPECT_TRUE(Uses(GoodPhase(row.type), FieldOf(&PhaseRecord::eruptionType)));

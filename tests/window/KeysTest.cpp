@@ -57,6 +57,7 @@ TEST_F(WindowTest, AChordTypesNothingAndAHeldKeyPressesAButtonOnce) {
         {"txtWind", Qt::CTRL | Qt::Key_S, "\x13", form.Command2.Click, 0, "10", &form.Command2},
         {"txtWind", Qt::Key_F1, "", form.cmdHelp.Click, 0, "10", &form.cmdHelp},
         {"txtWind", Qt::CTRL | Qt::Key_PageUp, "", form.cmbPhase.Click, 0, "10", &form.cmbPhase},
+        {"txtWind", Qt::CTRL | Qt::Key_PageDown, "", form.cmbPhase.Click, 0, "10", &form.cmbPhase},
         {"txtWind", Qt::CTRL | Qt::Key_W, "\x17", form.Unload, 0, "10"},
         {"chkDirected", Qt::Key_Space, " ", form.chkDirected.Click, 1, ""},
         {"optSmall", Qt::Key_Space, " ", form.optSmall.Click, 1, ""},
@@ -79,6 +80,13 @@ TEST_F(WindowTest, AChordTypesNothingAndAHeldKeyPressesAButtonOnce) {
         EXPECT_EQ(times, row.times) << "row " << &row - rows;
         EXPECT_EQ(box ? box->text().toStdString() : "", row.shown) << "row " << &row - rows;
     }
+    form.Command2.SetEnabled(false);
+    Find("txtWind")->setFocus();
+    for (const auto key : {Qt::Key_O, Qt::Key_S, Qt::Key_W, Qt::Key_PageUp, Qt::Key_PageDown}) {
+        Hold(Qt::CTRL | key, "");
+    }
+    EXPECT_FALSE(form.Command2.Enabled()) << "a shortcut is no key press in a box";
+    times = 1;
     for (const int phase : {1, 3}) {
         form.CurPhase = static_cast<Integer>(phase);
         Hold(Qt::CTRL | (phase == 1 ? Qt::Key_PageUp : Qt::Key_PageDown), "");
@@ -176,6 +184,8 @@ TEST_F(WindowTest, ATypedNumberIsShownSavedAndReadBackInEveryLocale) {
         {"de_DE", "12,75", "12,75"},
         {"fr_FR", "12,75", "12,75"},
         {"tr_TR", "12,75", "12,75"},
+        {"hi_IN", "12.75", "12.75"},
+        {"ja_JP", "12.75", "12.75"},
         {"ar_EG", "12.75", "12\u066B75"},
         {"ar_EG", "12,75", "12\u066B75"},
         {"fa_IR", "12.75", "12\u066B75"},

@@ -178,7 +178,7 @@ TEST_F(WindowTest, TabVisitsEachControlOnceAndTheFocusIsVisible) {
               "txtSlide6 txtMap1 txtMap3 txtMap2 txtMap4");
 }
 
-TEST_F(WindowTest, WhereControlsOverlapLaterOnesAndBoxesAreOnTop) {
+TEST_F(WindowTest, TheLaterOfTwoOverlappingControlsIsOnTop) {
     for (const auto& [below, above] : {std::pair{"cmbFlow", "txtLava"},
                                        {"optLarge", "optNormal"},
                                        {"Label1", "cmdOpen"},
